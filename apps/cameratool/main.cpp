@@ -1,1 +1,64 @@
-int main() {return 0;}
+#include "browsepage.h"
+#include "gallerypage.h"
+#include "rendering.h"
+
+#include <QApplication>
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace {
+
+constexpr PageKind pageKinds[] = {
+    {"browse", makeBrowsePage},
+    {"widgets", makeGalleryPage},
+};
+
+QStringList pageNames()
+{
+    QStringList names;
+    for (const PageKind& kind : pageKinds)
+        names.append(QLatin1String(kind.name));
+    return names;
+}
+
+std::unique_ptr<Page> makePage(const Options& options)
+{
+    const auto* kind =
+        std::find_if(std::begin(pageKinds), std::end(pageKinds), [&](const PageKind& candidate) {
+            return options.page == QLatin1String(candidate.name);
+        });
+    return kind->make(options);
+}
+
+int runPage(const Options& options)
+{
+    const std::unique_ptr<Page> page = makePage(options);
+    if (!options.renderDirectory.isEmpty())
+        return renderWindow(page->window(), options.renderDirectory, options.page) ? EXIT_SUCCESS
+                                                                                   : EXIT_FAILURE;
+    page->window().show();
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    const QApplication application(argc, argv);
+
+    const Options options = readOptions(application, pageNames());
+    if (options.dark) {
+        QApplication::setStyle(QStringLiteral("Fusion"));
+        QApplication::setPalette(darkPalette());
+    }
+    try {
+        return runPage(options);
+    } catch (const std::runtime_error& problem) {
+        fprintf(stderr, "%s\n", problem.what());
+        return EXIT_FAILURE;
+    }
+}
