@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QRegExp>
+#include <QSortFilterProxyModel>
+
+/// Shows the features of a parameter tree that the device implements, that the user's level may see and whose
+/// display name matches a wildcard pattern. Categories are not tested against the pattern.
+///
+/// The source model gives the feature of a row under Qt::UserRole of column 0 as GenApi::IValue*; a row
+/// without one is shown. A feature whose visibility or access mode cannot be read is shown too.
+///
+/// A change of the filter keeps all persistent indexes of rows that stay, and with them the view's expansion
+/// and selection. The rows are never sorted.
+class GenParamTreeVisibilityFilterProxyModel : public QSortFilterProxyModel
+{
+    Q_OBJECT
+    Q_DISABLE_COPY(GenParamTreeVisibilityFilterProxyModel)
+
+public:
+    explicit GenParamTreeVisibilityFilterProxyModel(QObject* parent = nullptr);
+
+    /// The pattern with its case sensitivity; it starts as "*", case-insensitive.
+    QRegExp namePattern() const { return m_namePattern; }
+    /// Case-sensitive is what the filter options call "Case Sensitive".
+    void setNameCaseSensitivity(Qt::CaseSensitivity sensitivity);
+
+    bool isWholeWord() const { return m_wholeWord; }
+    /// When set, the pattern must match the whole display name instead of a part of it.
+    void setWholeWord(bool wholeWord);
+
+    int filterVisibility() const { return m_visibility; }
+
+public slots:
+    /// The highest GenApi visibility that is shown: 0 beginner, 1 expert, 2 guru.
+    void setFilterVisibility(int _visibility);
+    /// Takes \a text as the wildcard pattern as it stands; an empty text shows every name.
+    void setFilterText(QString text);
+
+protected:
+    bool filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const override;
+
+private:
+    bool matchesName(const QString& displayName) const;
+
+    qint32 m_visibility = 0;
+    QRegExp m_namePattern;
+    bool m_wholeWord = false;
+};
