@@ -32,6 +32,12 @@ else()
         $<$<BOOL:${ZETO_WARNINGS_AS_ERRORS}>:-Werror>)
 endif()
 
+if(ZETO_BUILD_FUZZERS)
+    # Lets libFuzzer see which code of the library an input reaches.
+    target_compile_options(zeto_settings INTERFACE -fsanitize=fuzzer-no-link)
+    target_link_options(zeto_settings INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
 if(ZETO_SANITIZE)
     target_compile_options(zeto_settings INTERFACE -fsanitize=${ZETO_SANITIZE} -fno-omit-frame-pointer
         -fno-sanitize-recover=all)
