@@ -38,8 +38,14 @@ class GenParamTreeModel : public QAbstractItemModel
     Q_DISABLE_COPY(GenParamTreeModel)
 
 public:
-    enum Column { NameColumn, ValueColumn, ColumnCount };
-    enum Role {
+    enum Column
+    {
+        NameColumn,
+        ValueColumn,
+        ColumnCount
+    };
+    enum Role
+    {
         FeatureRole = Qt::UserRole,    ///< the row's GenApi::IValue*, in both columns
         ControlRole = Qt::UserRole + 1 ///< reserved for the editor prepared for the feature
     };
@@ -55,10 +61,10 @@ public:
     /// that it may be destroyed while the model still waits for its own deletion.
     void detach();
 
-    /// Passes \a elapsed milliseconds to the node map's own polling, then re-reads the value of each of \a rows
-    /// (indexes of this model in any column, a row counts once) exactly once and reports those that differ
-    /// from what is shown. Rows that are not named are not read, even when the polling found that they may
-    /// have changed: they are reported as changed and read when they are next asked for.
+    /// Passes \a elapsed milliseconds to the node map's own polling, then re-reads the value of each of \a
+    /// rows (indexes of this model in any column, a row counts once) exactly once and reports those that
+    /// differ from what is shown. Rows that are not named are not read, even when the polling found that they
+    /// may have changed: they are reported as changed and read when they are next asked for.
     void refresh(qint64 elapsed, const QModelIndexList& rows);
 
     QModelIndex index(int row, int column, const QModelIndex& parent = QModelIndex()) const override;
@@ -68,9 +74,9 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
-    /// DisplayRole gives the texts of both columns, EditRole the value in its own type (integers as qlonglong,
-    /// IPv4 addresses as dotted text), ToolTipRole an HTML text, WhatsThisRole the feature's plain description,
-    /// BackgroundRole a tint for categories and errors.
+    /// DisplayRole gives the texts of both columns, EditRole the value in its own type (integers as
+    /// qlonglong, IPv4 addresses as dotted text), ToolTipRole an HTML text, WhatsThisRole the feature's plain
+    /// description, BackgroundRole a tint for categories and errors.
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
 
     /// Writes to the camera; true only when the camera took the value. A command is executed.
@@ -84,7 +90,7 @@ protected:
     bool event(QEvent* event) override;
 
 private:
-    friend class GenParamTreeModelPrivate;
-    const std::unique_ptr<GenParamTreeModelPrivate> d_ptr;
+    // Shared, because a callback that GenApi failed to remove keeps it alive.
+    const std::shared_ptr<GenParamTreeModelPrivate> d_ptr;
     Q_DECLARE_PRIVATE(GenParamTreeModel)
 };

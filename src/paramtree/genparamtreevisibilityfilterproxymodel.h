@@ -1,5 +1,7 @@
 #pragma once
 
+#include <GenApi/GenApi.h>
+
 #include <QRegExp>
 #include <QSortFilterProxyModel>
 
@@ -40,6 +42,8 @@ protected:
     bool filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const override;
 
 private:
+    void filterAgain();
+    bool accepts(GenApi::IValue& feature) const;
     bool matchesName(const QString& displayName) const;
 
     qint32 m_visibility = 0;

@@ -1,0 +1,68 @@
+#include "genparamerrors.h"
+
+#include "genapiguard.h"
+
+#include <utility>
+
+namespace {
+
+/// The feature's name; what else identifies it when a failing camera does not even tell that.
+QString nameOf(GenApi::IValue& feature)
+{
+    const auto node = [&feature]() -> GenApi::INode& { return dynamic_cast<GenApi::INode&>(feature); };
+    const QString name = genApiOr(QString(), [&] { return fromGenApi(node().GetName()); });
+    if (!name.isEmpty())
+        return name;
+    return genApiOr(QStringLiteral("?"), [&] { return fromGenApi(node().GetDisplayName()); });
+}
+
+} // namespace
+
+GenParamErrors::GenParamErrors(Appeared appeared, Disappeared disappeared)
+    : m_appeared(std::move(appeared))
+    , m_disappeared(std::move(disappeared))
+{
+}
+
+void GenParamErrors::readFailed(GenApi::IValue& feature, const QString& reason)
+{
+    add(feature, reason, Origin::Read);
+}
+
+void GenParamErrors::writeFailed(GenApi::IValue& feature, const QString& reason)
+{
+    add(feature, reason, Origin::Write);
+}
+
+void GenParamErrors::readSucceeded(const GenApi::IValue& feature, bool valueChanged)
+{
+    const auto entry = m_entries.constFind(&feature);
+    if (entry != m_entries.constEnd() && (entry->origin == Origin::Read || valueChanged))
+        remove(feature);
+}
+
+void GenParamErrors::writeSucceeded(const GenApi::IValue& feature)
+{
+    remove(feature);
+}
+
+void GenParamErrors::add(GenApi::IValue& feature, const QString& reason, Origin origin)
+{
+    const auto entry = m_entries.constFind(&feature);
+    if (entry != m_entries.constEnd() && entry->reason == reason && entry->origin == origin)
+        return;
+    remove(feature);
+    const QString name = nameOf(feature);
+    m_entries.insert(&feature, {name, reason, origin});
+    m_appeared(name, reason);
+}
+
+void GenParamErrors::remove(const GenApi::IValue& feature)
+{
+    const auto entry = m_entries.constFind(&feature);
+    if (entry == m_entries.constEnd())
+        return;
+    const QString name = entry->name;
+    m_entries.erase(entry);
+    m_disappeared(name);
+}

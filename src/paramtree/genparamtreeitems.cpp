@@ -1,0 +1,146 @@
+#include "genparamtreeitems.h"
+
+#include "genapiguard.h"
+
+#include <algorithm>
+#include <functional>
+#include <utility>
+
+namespace {
+
+/// Far above any device. Categories that list each other over several levels multiply without end.
+constexpr size_t maxRows = 200000;
+
+struct OrderByFeature
+{
+    using Less = std::less<const GenApi::IValue*>;
+    bool operator()(const GenParamTreeItem* a, const GenParamTreeItem* b) const
+    {
+        return Less()(a->feature, b->feature);
+    }
+    bool operator()(const GenParamTreeItem* a, const GenApi::IValue* b) const
+    {
+        return Less()(a->feature, b);
+    }
+    bool operator()(const GenApi::IValue* a, const GenParamTreeItem* b) const
+    {
+        return Less()(a, b->feature);
+    }
+};
+
+std::vector<GenApi::IValue*> membersOf(const GenApi::IValue& category)
+{
+    GenApi::FeatureList_t features;
+    genApiFault([&] { dynamic_cast<const GenApi::ICategory&>(category).GetFeatures(features); });
+    std::vector<GenApi::IValue*> members;
+    std::copy_if(features.begin(), features.end(), std::back_inserter(members),
+                 [](const GenApi::IValue* feature) { return feature != nullptr; });
+    return members;
+}
+
+bool isCategory(const GenParamTreeItem& item)
+{
+    return item.kind == GenParamKind::Category ||
+           (item.kind == GenParamKind::Unknown && dynamic_cast<GenApi::ICategory*>(item.feature));
+}
+
+bool isBelow(const GenParamTreeItem& item, const GenApi::IValue* feature)
+{
+    for (const GenParamTreeItem* ancestor = item.parent; ancestor; ancestor = ancestor->parent)
+        if (ancestor->feature == feature)
+            return true;
+    return false;
+}
+
+} // namespace
+
+struct GenParamTreeItems::Build
+{
+    const GenApi::IValue* root;
+    size_t room = maxRows;
+    /// Integers whose name stands for an address, decided when the whole tree is known.
+    std::vector<std::pair<GenParamTreeItem*, GenParamKind>> namedAddresses = {};
+};
+
+void GenParamTreeItems::build(GenApi::INodeMap& nodeMap)
+{
+    clear();
+    auto* root = genApiOr<GenApi::IValue*>(
+        nullptr, [&] { return dynamic_cast<GenApi::IValue*>(nodeMap.GetNode("Root")); });
+    if (!dynamic_cast<GenApi::ICategory*>(root))
+        return;
+    Build build{root};
+    addCategory(build, *root, nullptr);
+    if (!m_trustsRepresentation)
+        for (const auto& [item, kind] : build.namedAddresses)
+            item->kind = kind;
+    sortByFeature();
+}
+
+void GenParamTreeItems::clear()
+{
+    *this = GenParamTreeItems();
+}
+
+void GenParamTreeItems::addCategory(Build& build, GenApi::IValue& category, GenParamTreeItem* parent)
+{
+    const std::vector<GenApi::IValue*> members = membersOf(category);
+    const auto count = static_cast<qint32>(std::min(members.size(), build.room));
+    if (count == 0)
+        return;
+    build.room -= static_cast<size_t>(count);
+    m_blocks.push_back(std::make_unique<GenParamTreeItem[]>(static_cast<size_t>(count)));
+    GenParamTreeItem* rows = m_blocks.back().get();
+    (parent ? parent->children : m_root) = rows;
+    (parent ? parent->childCount : m_rootCount) = count;
+    for (qint32 row = 0; row < count; ++row) {
+        rows[row].feature = members[static_cast<size_t>(row)];
+        rows[row].parent = parent;
+        rows[row].row = row;
+        addRow(build, rows[row]);
+    }
+}
+
+void GenParamTreeItems::addRow(Build& build, GenParamTreeItem& item)
+{
+    m_byFeature.push_back(&item);
+    item.kind = genApiOr(GenParamKind::Unknown, [&] { return declaredKind(*item.feature); });
+    if (isIntegerKind(item.kind)) {
+        const GenICam::gcstring name = genApiOr(
+            GenICam::gcstring(), [&] { return dynamic_cast<GenApi::INode&>(*item.feature).GetName(); });
+        if (item.kind == GenParamKind::IPv4Address && name == "GevCurrentIPAddress")
+            m_trustsRepresentation = true;
+        const GenParamKind named = namedAddressKind(name);
+        if (named != GenParamKind::Unknown)
+            build.namedAddresses.emplace_back(&item, named);
+    } else if (isCategory(item) && item.feature != build.root && !isBelow(item, item.feature)) {
+        addCategory(build, *item.feature, &item);
+    }
+}
+
+void GenParamTreeItems::sortByFeature()
+{
+    std::stable_sort(m_byFeature.begin(), m_byFeature.end(), OrderByFeature());
+    for (size_t i = 1; i < m_byFeature.size(); ++i)
+        if (m_byFeature[i]->feature == m_byFeature[i - 1]->feature)
+            m_byFeature[i]->isRepeated = m_byFeature[i - 1]->isRepeated = true;
+    m_byFeature.shrink_to_fit();
+    m_blocks.shrink_to_fit();
+}
+
+GenParamTreeItems::Range GenParamTreeItems::rowsOf(const GenApi::IValue* feature) const
+{
+    const auto range = std::equal_range(m_byFeature.begin(), m_byFeature.end(), feature, OrderByFeature());
+    return {range.first, range.second};
+}
+
+GenParamTreeItem* GenParamTreeItems::primary(const GenApi::IValue* feature) const
+{
+    const Range rows = rowsOf(feature);
+    return rows.first == rows.last ? nullptr : *rows.first;
+}
+
+GenParamTreeItem& GenParamTreeItems::primary(GenParamTreeItem& item) const
+{
+    return item.isRepeated ? *primary(item.feature) : item;
+}

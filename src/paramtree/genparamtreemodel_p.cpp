@@ -1,0 +1,269 @@
+#include "genparamtreemodel_p.h"
+
+#include "genapiguard.h"
+#include "genparamwriting.h"
+
+#include <QCoreApplication>
+#include <QScopedValueRollback>
+
+#include <algorithm>
+
+namespace {
+
+/// Tries a few times what must not fail half-way. \return whether it succeeded.
+template <typename Call>
+bool insist(Call call)
+{
+    for (int attempt = 0; attempt < 3; ++attempt)
+        if (!genApiFault(call))
+            return true;
+    return false;
+}
+
+/// Whether \a value is the text that an editor was given for want of a value.
+bool isPlaceholder(const GenParamTreeItem& item, const QVariant& value)
+{
+    const GenParamState state = item.reading.state;
+    return state != GenParamState::Unread && state != GenParamState::Good &&
+           value == editValue(item.kind, item.reading);
+}
+
+} // namespace
+
+GenParamTreeModelPrivate::GenParamTreeModelPrivate(GenParamTreeModel* model)
+    : q_ptr(model)
+    , m_errors(
+          [this](const QString& name, const QString& reason) { emit q_ptr->errorAppeared(name, reason); },
+          [this](const QString& name) { emit q_ptr->errorDisappeared(name); })
+{
+}
+
+void GenParamTreeModelPrivate::attach(GenApi::INodeMap* nodeMap)
+{
+    m_nodeMap = nodeMap;
+    if (!nodeMap)
+        return;
+    items.build(*nodeMap);
+    int features = 0;
+    items.forEachFeature([&features](GenParamTreeItem&) { ++features; });
+    m_callbacks.reserve(static_cast<size_t>(features));
+    // A change that comes before the last callback is registered is not lost: nothing has been read yet.
+    m_isAttached = true;
+    items.forEachFeature([this](GenParamTreeItem& item) { registerCallback(*item.feature); });
+}
+
+void GenParamTreeModelPrivate::registerCallback(GenApi::IValue& feature)
+{
+    const auto destroy = [](GenApi::CNodeCallback* callback) { callback->Destroy(); };
+    genApiFault([&] {
+        auto& node = dynamic_cast<GenApi::INode&>(feature);
+        std::unique_ptr<GenApi::CNodeCallback, decltype(destroy)> callback(
+            GenApi::make_NodeCallback(&node, *this, &GenParamTreeModelPrivate::onNodeChanged,
+                                      GenApi::cbPostInsideLock),
+            destroy);
+        m_callbacks.push_back(node.RegisterCallback(callback.get()));
+        callback.release(); // the node's from here on
+    });
+}
+
+void GenParamTreeModelPrivate::detach()
+{
+    if (!m_nodeMap)
+        return;
+    GenApi::CLock* lock = nullptr;
+    insist([&] { lock = &m_nodeMap->GetLock(); });
+    // Callbacks run inside this lock: when we have it, none of them is under way.
+    std::optional<GenApi::AutoLock> locked;
+    if (lock)
+        locked.emplace(*lock);
+    m_isAttached = false;
+    m_nodeMap = nullptr;
+    if (!deregisterAll()) {
+        static std::vector<std::shared_ptr<GenParamTreeModelPrivate>> stillReferred;
+        stillReferred.push_back(shared_from_this());
+    }
+}
+
+bool GenParamTreeModelPrivate::deregisterAll()
+{
+    bool all = true;
+    for (const GenApi::CallbackHandleType handle : m_callbacks)
+        all = insist([handle] { GenApi::Deregister(handle); }) && all;
+    m_callbacks.clear();
+    return all;
+}
+
+void GenParamTreeModelPrivate::onNodeChanged(GenApi::INode* node)
+{
+    if (!m_isAttached)
+        return;
+    GenParamTreeItem* item = items.primary(dynamic_cast<GenApi::IValue*>(node));
+    if (!item)
+        return;
+    // The writer's call must not be ended by an exception of ours.
+    genApiFault([&] {
+        const bool isOwnThread = std::this_thread::get_id() == m_thread;
+        if (isOwnThread && !m_isCollecting && item != m_written)
+            report(*item, true);
+        else if (isOwnThread)
+            item->isMarked = true;
+        else
+            mark(*item);
+    });
+}
+
+void GenParamTreeModelPrivate::mark(GenParamTreeItem& item)
+{
+    item.isMarked = true;
+    if (m_isPosted.exchange(true))
+        return;
+    m_isPosted = !genApiFault([this] { QCoreApplication::postEvent(q_ptr, new QEvent(changeEventType())); });
+}
+
+QEvent::Type GenParamTreeModelPrivate::changeEventType()
+{
+    static const int type = QEvent::registerEventType();
+    return static_cast<QEvent::Type>(type);
+}
+
+void GenParamTreeModelPrivate::takePostedChanges()
+{
+    m_isPosted = false; // before the marks are taken: a later change posts again
+    reportMarked(true);
+}
+
+void GenParamTreeModelPrivate::reportMarked(bool compare)
+{
+    std::vector<GenParamTreeItem*> marked;
+    items.forEachFeature([&marked](GenParamTreeItem& item) {
+        if (item.isMarked.load(std::memory_order_relaxed) && item.isMarked.exchange(false))
+            marked.push_back(&item);
+    });
+    for (GenParamTreeItem* item : marked)
+        if (m_isAttached)
+            report(*item, compare);
+}
+
+void GenParamTreeModelPrivate::report(GenParamTreeItem& item, bool compare)
+{
+    if (item.reading.state != GenParamState::Unread) {
+        if (!compare)
+            item.reading = GenParamReading();
+        else if (!read(item))
+            return;
+    }
+    emitDataChanged(item);
+}
+
+void GenParamTreeModelPrivate::emitDataChanged(const GenParamTreeItem& item)
+{
+    const auto range = items.rowsOf(item.feature);
+    const std::vector<GenParamTreeItem*> rows(range.begin(), range.end());
+    for (GenParamTreeItem* row : rows) {
+        if (!m_isAttached)
+            return; // given up by a receiver of the signal
+        const QModelIndex index = q_ptr->createIndex(row->row, GenParamTreeModel::ValueColumn, row);
+        emit q_ptr->dataChanged(index, index);
+    }
+}
+
+void GenParamTreeModelPrivate::ensureRead(GenParamTreeItem& item)
+{
+    if (item.reading.state == GenParamState::Unread)
+        read(item);
+}
+
+bool GenParamTreeModelPrivate::read(GenParamTreeItem& item)
+{
+    GenParamReading reading;
+    const std::optional<QString> fault = genApiFault([&] {
+        if (item.kind == GenParamKind::Unknown)
+            item.kind = paramKind(*item.feature, items.trustsRepresentation());
+        readParam(*item.feature, item.kind, reading);
+    });
+    if (fault)
+        reading.state = GenParamState::Failed;
+    const bool differs = !(reading == item.reading);
+    item.reading = std::move(reading);
+    if (fault)
+        m_errors.readFailed(*item.feature, *fault);
+    else
+        m_errors.readSucceeded(*item.feature, differs);
+    return differs;
+}
+
+QVariant GenParamTreeModelPrivate::valueData(GenParamTreeItem& item, int role)
+{
+    ensureRead(item);
+    return role == Qt::EditRole ? editValue(item.kind, item.reading) : displayTextOf(item);
+}
+
+QString GenParamTreeModelPrivate::displayTextOf(GenParamTreeItem& item)
+{
+    GenParamFormat format;
+    if (item.reading.state == GenParamState::Good) {
+        if (const auto fault = genApiFault([&] { format = formatOfParam(*item.feature, item.kind); })) {
+            item.reading.state = GenParamState::Failed;
+            item.reading.value = GenParamValue();
+            m_errors.readFailed(*item.feature, *fault);
+        }
+    }
+    return displayText(item.kind, item.reading, format);
+}
+
+GenApi::EAccessMode GenParamTreeModelPrivate::accessMode(const GenParamTreeItem& item) const
+{
+    if (item.reading.state != GenParamState::Unread)
+        return static_cast<GenApi::EAccessMode>(item.reading.accessMode);
+    return genApiOr(GenApi::NA, [&item] { return item.feature->GetAccessMode(); });
+}
+
+bool GenParamTreeModelPrivate::write(GenParamTreeItem& item, const QVariant& value)
+{
+    const bool taken = !isPlaceholder(item, value) && tryWrite(item, value);
+    if (!m_isAttached)
+        return taken; // given up by a receiver of a signal of the write
+    const bool wasMarked = item.isMarked.exchange(false);
+    if (taken) {
+        // The camera may have rounded: what it holds is read when it is shown.
+        item.reading = GenParamReading();
+        m_errors.writeSucceeded(*item.feature);
+        emitDataChanged(item);
+    } else if (wasMarked) {
+        report(item, true);
+    }
+    return taken;
+}
+
+bool GenParamTreeModelPrivate::tryWrite(GenParamTreeItem& item, const QVariant& value)
+{
+    const QScopedValueRollback<const GenParamTreeItem*> writing(m_written, &item);
+    bool taken = false;
+    bool isWritable = false;
+    std::optional<QString> fault = genApiFault([&] {
+        if (item.kind == GenParamKind::Unknown)
+            item.kind = paramKind(*item.feature, items.trustsRepresentation());
+        isWritable = GenApi::IsWritable(item.feature);
+        taken = isWritable && writeParam(*item.feature, item.kind, value);
+    });
+    if (!fault && isWritable && !taken)
+        fault = GenParamTreeModel::tr("The value does not fit the type of the feature");
+    if (fault && m_isAttached)
+        m_errors.writeFailed(*item.feature, *fault);
+    return taken;
+}
+
+void GenParamTreeModelPrivate::poll(qint64 elapsed)
+{
+    if (!m_nodeMap)
+        return;
+    const QScopedValueRollback<bool> collecting(m_isCollecting, true);
+    genApiFault([&] { m_nodeMap->Poll(elapsed); });
+}
+
+void GenParamTreeModelPrivate::refresh(GenParamTreeItem& item)
+{
+    item.isMarked = false;
+    if (read(item))
+        emitDataChanged(item);
+}

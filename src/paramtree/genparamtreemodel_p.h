@@ -1,0 +1,81 @@
+#pragma once
+
+#include "genparamerrors.h"
+#include "genparamtreeitems.h"
+#include "genparamtreemodel.h"
+
+#include <QEvent>
+
+#include <atomic>
+#include <memory>
+#include <thread>
+#include <vector>
+
+/// What the model does with the camera: reads, writes, and the callbacks of the nodes.
+///
+/// onNodeChanged() runs on any thread, inside the node map's lock. It uses only what does not change between
+/// attach() and detach(), and the atomics. Everything else runs on the model's thread.
+///
+/// Items passed in and out are primary rows, see GenParamTreeItems::primary().
+class GenParamTreeModelPrivate : public std::enable_shared_from_this<GenParamTreeModelPrivate>
+{
+    Q_DECLARE_PUBLIC(GenParamTreeModel)
+    Q_DISABLE_COPY(GenParamTreeModelPrivate)
+
+public:
+    explicit GenParamTreeModelPrivate(GenParamTreeModel* model);
+
+    /// Builds the rows and registers one callback on each feature.
+    void attach(GenApi::INodeMap* nodeMap);
+    /// Deregisters the callbacks; none of them runs when it returns. The rows stay.
+    void detach();
+    bool isAttached() const { return m_isAttached; }
+
+    /// The value of column 1 for the display or edit role.
+    QVariant valueData(GenParamTreeItem& item, int role);
+    GenApi::EAccessMode accessMode(const GenParamTreeItem& item) const;
+
+    /// \return whether the camera took \a value.
+    bool write(GenParamTreeItem& item, const QVariant& value);
+
+    /// Passes the time to the node map. Features that it changes are only marked.
+    void poll(qint64 elapsed);
+    void refresh(GenParamTreeItem& item);
+    /// Reports the features that were marked. With \a compare, a value that was read before is read again
+    /// first and reported only when it differs; without, it is forgotten and read when it is asked for.
+    void reportMarked(bool compare);
+    /// Reports what other threads marked since the last event.
+    void takePostedChanges();
+    static QEvent::Type changeEventType();
+
+    GenParamTreeItems items;
+
+private:
+    void registerCallback(GenApi::IValue& feature);
+    bool deregisterAll();
+    void onNodeChanged(GenApi::INode* node);
+    void mark(GenParamTreeItem& item);
+
+    /// Reads the feature unless what is known of it is good enough to be shown.
+    void ensureRead(GenParamTreeItem& item);
+    /// \return whether anything differs from what was read before.
+    bool read(GenParamTreeItem& item);
+    QString displayTextOf(GenParamTreeItem& item);
+    bool tryWrite(GenParamTreeItem& item, const QVariant& value);
+    void report(GenParamTreeItem& item, bool compare);
+    void emitDataChanged(const GenParamTreeItem& item);
+
+    GenParamTreeModel* const q_ptr;
+    GenApi::INodeMap* m_nodeMap = nullptr;
+    std::vector<GenApi::CallbackHandleType> m_callbacks;
+    GenParamErrors m_errors;
+    const std::thread::id m_thread = std::this_thread::get_id();
+
+    /// While it is set, changes made on the model's own thread are marked like those of other threads.
+    bool m_isCollecting = false;
+    /// The feature being written: its change is reported once, after the write.
+    const GenParamTreeItem* m_written = nullptr;
+
+    std::atomic<bool> m_isAttached{false};
+    std::atomic<bool> m_isPosted{false};
+};

@@ -1,0 +1,66 @@
+#include "genparamtreevisibilityfilterproxymodel.h"
+
+#include "genapiguard.h"
+#include "genparamtreemodel.h"
+
+GenParamTreeVisibilityFilterProxyModel::GenParamTreeVisibilityFilterProxyModel(QObject* parent)
+    : QSortFilterProxyModel(parent)
+    , m_namePattern(QStringLiteral("*"), Qt::CaseInsensitive, QRegExp::WildcardUnix)
+{
+}
+
+void GenParamTreeVisibilityFilterProxyModel::setNameCaseSensitivity(Qt::CaseSensitivity sensitivity)
+{
+    m_namePattern.setCaseSensitivity(sensitivity);
+    filterAgain();
+}
+
+void GenParamTreeVisibilityFilterProxyModel::setWholeWord(bool wholeWord)
+{
+    m_wholeWord = wholeWord;
+    filterAgain();
+}
+
+void GenParamTreeVisibilityFilterProxyModel::setFilterVisibility(int _visibility)
+{
+    m_visibility = _visibility;
+    filterAgain();
+}
+
+void GenParamTreeVisibilityFilterProxyModel::setFilterText(QString text)
+{
+    m_namePattern.setPattern(text);
+    filterAgain();
+}
+
+void GenParamTreeVisibilityFilterProxyModel::filterAgain()
+{
+    // invalidateFilter() would remove row by row, which walks every expanded category for each interval:
+    // twenty times slower on ten thousand rows.
+    invalidate();
+}
+
+bool GenParamTreeVisibilityFilterProxyModel::filterAcceptsRow(int sourceRow,
+                                                              const QModelIndex& sourceParent) const
+{
+    const QVariant payload = sourceModel()->index(sourceRow, 0, sourceParent).data(Qt::UserRole);
+    auto* feature = payload.value<GenApi::IValue*>();
+    return !feature || genApiOr(true, [&] { return accepts(*feature); });
+}
+
+bool GenParamTreeVisibilityFilterProxyModel::accepts(GenApi::IValue& feature) const
+{
+    const auto& node = dynamic_cast<GenApi::INode&>(feature);
+    if (node.GetVisibility() > m_visibility)
+        return false;
+    if (node.GetPrincipalInterfaceType() != GenApi::intfICategory && !m_namePattern.isEmpty() &&
+        !matchesName(fromGenApi(node.GetDisplayName())))
+        return false;
+    // Last, because it alone may go to the camera.
+    return GenApi::IsImplemented(&feature);
+}
+
+bool GenParamTreeVisibilityFilterProxyModel::matchesName(const QString& displayName) const
+{
+    return m_wholeWord ? m_namePattern.exactMatch(displayName) : m_namePattern.indexIn(displayName) >= 0;
+}

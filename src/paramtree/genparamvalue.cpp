@@ -1,0 +1,145 @@
+#include "genparamvalue.h"
+
+#include "addresstext.h"
+#include "genapiguard.h"
+
+#include <QCoreApplication>
+
+#include <cmath>
+
+namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(GenParamTreeModel)
+};
+
+GenParamValue readValue(GenApi::IValue& feature, GenParamKind kind)
+{
+    switch (kind) {
+    case GenParamKind::Integer:
+    case GenParamKind::HexInteger:
+    case GenParamKind::IPv4Address:
+    case GenParamKind::MacAddress:
+        return qint64{dynamic_cast<GenApi::IInteger&>(feature).GetValue()};
+    case GenParamKind::Boolean:
+        return dynamic_cast<GenApi::IBoolean&>(feature).GetValue();
+    case GenParamKind::Float:
+        return dynamic_cast<GenApi::IFloat&>(feature).GetValue();
+    case GenParamKind::String:
+        return fromGenApi(dynamic_cast<GenApi::IString&>(feature).GetValue());
+    case GenParamKind::Enumeration:
+        return fromGenApi(feature.ToString());
+    default:
+        return std::monostate{};
+    }
+}
+
+bool sameValue(const GenParamValue& a, const GenParamValue& b)
+{
+    const auto* x = std::get_if<double>(&a);
+    const auto* y = std::get_if<double>(&b);
+    return a == b || (x && y && std::isnan(*x) && std::isnan(*y));
+}
+
+QString integerText(GenParamKind kind, qint64 value, const QString& unit)
+{
+    switch (kind) {
+    case GenParamKind::HexInteger:
+        return QString::number(static_cast<quint64>(value), 16);
+    case GenParamKind::IPv4Address:
+        return ipv4Text(static_cast<quint32>(value));
+    case GenParamKind::MacAddress:
+        return macText(static_cast<quint64>(value));
+    default:
+        return QString::number(value) + unit;
+    }
+}
+
+/// The text that stands where there is no value; null when there is one.
+QString placeholder(GenParamState state)
+{
+    switch (state) {
+    case GenParamState::NotAvailable:
+        return Texts::tr("<Value not available>");
+    case GenParamState::NotReadable:
+        return Texts::tr("<Value not readable>");
+    case GenParamState::Failed:
+        return Texts::tr("ERROR");
+    default:
+        return QString();
+    }
+}
+
+} // namespace
+
+bool operator==(const GenParamReading& a, const GenParamReading& b)
+{
+    return a.state == b.state && a.accessMode == b.accessMode && sameValue(a.value, b.value);
+}
+
+void readParam(GenApi::IValue& feature, GenParamKind kind, GenParamReading& reading)
+{
+    reading = GenParamReading();
+    reading.state = GenParamState::Failed;
+    const GenApi::EAccessMode mode = feature.GetAccessMode();
+    reading.accessMode = static_cast<quint8>(mode);
+    if (!GenApi::IsAvailable(mode)) {
+        reading.state = GenParamState::NotAvailable;
+    } else if (!GenApi::IsReadable(mode) && kind != GenParamKind::Command) {
+        reading.state = GenParamState::NotReadable;
+    } else {
+        reading.value = readValue(feature, kind);
+        reading.state = GenParamState::Good;
+    }
+}
+
+GenParamFormat formatOfParam(GenApi::IValue& feature, GenParamKind kind)
+{
+    GenParamFormat format;
+    if (kind == GenParamKind::Integer) {
+        format.unit = fromGenApi(dynamic_cast<GenApi::IInteger&>(feature).GetUnit());
+    } else if (kind == GenParamKind::Float) {
+        auto& node = dynamic_cast<GenApi::IFloat&>(feature);
+        format.unit = fromGenApi(node.GetUnit());
+        format.decimals = node.GetDisplayPrecision();
+    }
+    return format;
+}
+
+QString valueText(GenParamKind kind, const GenParamValue& value, const GenParamFormat& format)
+{
+    if (const auto* integer = std::get_if<qint64>(&value))
+        return integerText(kind, *integer, format.unit);
+    if (const auto* real = std::get_if<double>(&value)) {
+        // More digits than a double has, and still a text that fits a cell.
+        const int decimals = static_cast<int>(qBound(qint64{0}, format.decimals, qint64{40}));
+        return QString::number(*real, 'f', decimals) + format.unit;
+    }
+    if (const auto* boolean = std::get_if<bool>(&value))
+        return *boolean ? Texts::tr("True") : Texts::tr("False");
+    const auto* text = std::get_if<QString>(&value);
+    return text ? *text : QString();
+}
+
+QString displayText(GenParamKind kind, const GenParamReading& reading, const GenParamFormat& format)
+{
+    if (reading.state != GenParamState::Good)
+        return placeholder(reading.state);
+    return kind == GenParamKind::Command ? Texts::tr("Execute") : valueText(kind, reading.value, format);
+}
+
+QVariant editValue(GenParamKind kind, const GenParamReading& reading)
+{
+    if (const auto* integer = std::get_if<qint64>(&reading.value);
+        integer && kind != GenParamKind::IPv4Address)
+        return QVariant(*integer);
+    if (const auto* real = std::get_if<double>(&reading.value))
+        return QVariant(*real);
+    if (const auto* boolean = std::get_if<bool>(&reading.value))
+        return QVariant(*boolean);
+    if (const auto* string = std::get_if<QString>(&reading.value))
+        return QVariant(*string);
+    const QString text = displayText(kind, reading, GenParamFormat());
+    return text.isNull() ? QVariant() : QVariant(text);
+}
