@@ -74,15 +74,14 @@ enum AccessStatus : int32_t
 enum AccessMode : int32_t
 {
     AccessReadOnly = 1,
-    AccessControl = 2, ///< read and write; other programs may still read
-    AccessExclusive = 3,
+    AccessControl = 2, ///< read and write
 };
 
 /// Ids of Device::RegisterEvent().
 enum DeviceEvent : int32_t
 {
     EventDeviceLost = 1003, ///< the camera does not answer any more; accesses fail with ErrorNoDevice
-    EventDeviceBack = 1004, ///< a lost camera answers again and keeps its parameter array
+    EventDeviceBack = 1004, ///< a lost camera answers again; what is shown of it should be read anew
 };
 
 /// A list made for one caller, who walks it and releases it. The elements outlive it.
@@ -193,8 +192,8 @@ public:
     virtual int32_t ForceIP(uint32_t address, uint32_t mask, uint32_t gateway) = 0;
 };
 
-/// Called by the library with the DeviceEvent, on a thread of the library or on the thread that met the event
-/// with an access. It must not release the device nor wait for another thread. Exceptions must not leave it.
+/// Called by the library with the DeviceEvent, on any thread, with no lock of the parameter array held. It
+/// must not release the device nor wait for another thread. Exceptions must not leave it.
 using DeviceEventCallback = void (*)(int32_t eventId, void* context);
 
 /// An open camera.
