@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QTreeView>
+
+/// The tree of names (column 0) and values (column 1): editing and copying from keyboard and context menu,
+/// and editors that a refresh does not disturb.
+class FeatureTreeView : public QTreeView
+{
+    Q_OBJECT
+
+public:
+    explicit FeatureTreeView(QWidget* parent = nullptr);
+
+    /// Expands all of \a rows with one layout instead of one for each.
+    void expandRows(const QModelIndexList& rows);
+
+    void dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight,
+                     const QVector<int>& roles = QVector<int>()) override;
+
+public slots:
+    /// Edits the value of the current row; opens or closes a category.
+    void editValue();
+
+    void copyName() const;
+    void copyValue() const;
+    /// Name and value with a tab between them, as tables take it.
+    void copyLine() const;
+
+protected:
+    void contextMenuEvent(QContextMenuEvent* event) override;
+
+private:
+    template <typename Slot>
+    QAction* addRowAction(const QString& text, const QList<QKeySequence>& shortcuts, Slot slot);
+    QPoint menuPosition(const QContextMenuEvent& event) const;
+    QString currentText(int column) const;
+
+    QAction* m_edit = nullptr;
+};
