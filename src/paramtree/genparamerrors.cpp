@@ -10,7 +10,7 @@ namespace {
 QString nameOf(GenApi::IValue& feature)
 {
     const auto node = [&feature]() -> GenApi::INode& { return dynamic_cast<GenApi::INode&>(feature); };
-    const QString name = genApiOr(QString(), [&] { return fromGenApi(node().GetName()); });
+    QString name = genApiOr(QString(), [&] { return fromGenApi(node().GetName()); });
     if (!name.isEmpty())
         return name;
     return genApiOr(QStringLiteral("?"), [&] { return fromGenApi(node().GetDisplayName()); });

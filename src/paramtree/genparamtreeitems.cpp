@@ -13,18 +13,17 @@ constexpr size_t maxRows = 200000;
 
 struct OrderByFeature
 {
-    using Less = std::less<const GenApi::IValue*>;
     bool operator()(const GenParamTreeItem* a, const GenParamTreeItem* b) const
     {
-        return Less()(a->feature, b->feature);
+        return std::less<>()(a->feature, b->feature);
     }
     bool operator()(const GenParamTreeItem* a, const GenApi::IValue* b) const
     {
-        return Less()(a->feature, b);
+        return std::less<>()(a->feature, b);
     }
     bool operator()(const GenApi::IValue* a, const GenParamTreeItem* b) const
     {
-        return Less()(a, b->feature);
+        return std::less<>()(a, b->feature);
     }
 };
 
@@ -142,5 +141,5 @@ GenParamTreeItem* GenParamTreeItems::primary(const GenApi::IValue* feature) cons
 
 GenParamTreeItem& GenParamTreeItems::primary(GenParamTreeItem& item) const
 {
-    return item.isRepeated ? *primary(item.feature) : item;
+    return item.isRepeated ? **rowsOf(item.feature).first : item;
 }

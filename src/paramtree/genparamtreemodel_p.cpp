@@ -62,7 +62,7 @@ void GenParamTreeModelPrivate::registerCallback(GenApi::IValue& feature)
                                       GenApi::cbPostInsideLock),
             destroy);
         m_callbacks.push_back(node.RegisterCallback(callback.get()));
-        callback.release(); // the node's from here on
+        static_cast<void>(callback.release()); // the node's from here on
     });
 }
 

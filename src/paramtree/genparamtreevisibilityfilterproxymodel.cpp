@@ -27,7 +27,7 @@ void GenParamTreeVisibilityFilterProxyModel::setFilterVisibility(int _visibility
     filterAgain();
 }
 
-void GenParamTreeVisibilityFilterProxyModel::setFilterText(QString text)
+void GenParamTreeVisibilityFilterProxyModel::setFilterText(const QString& text)
 {
     m_namePattern.setPattern(text);
     filterAgain();

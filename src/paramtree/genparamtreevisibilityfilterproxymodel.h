@@ -36,7 +36,7 @@ public slots:
     /// The highest GenApi visibility that is shown: 0 beginner, 1 expert, 2 guru.
     void setFilterVisibility(int _visibility);
     /// Takes \a text as the wildcard pattern as it stands; an empty text shows every name.
-    void setFilterText(QString text);
+    void setFilterText(const QString& text);
 
 protected:
     bool filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const override;
