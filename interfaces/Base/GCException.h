@@ -48,8 +48,6 @@ private:
              const char* pExceptionType);                                                                    \
         Name(const char* pDescription, const char* pSourceFileName, int SourceLine, const char* pEntryPoint, \
              const char* pErrorNodeName, const char* pExceptionType);                                        \
-        Name(const Name& other);                                                                             \
-        Name& operator=(const Name& other);                                                                  \
         ~Name() noexcept override;                                                                           \
     }
 

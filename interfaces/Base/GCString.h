@@ -67,7 +67,7 @@ public:
     virtual bool operator>(const gcstring& str) const;
     virtual operator const char*() const;
 
-    virtual gcstring& operator=(const gcstring& str);
+    gcstring& operator=(const gcstring& str);
     virtual gcstring& operator+=(const gcstring& str);
     /// Leaves this text as it is and returns the longer one.
     virtual gcstring operator+=(const gcstring& str) const;

@@ -1,7 +1,7 @@
 #pragma once
 
 /// \file
-/// All node interfaces in one include, without EnumClasses.h and Compatibility.h.
+/// All node interfaces in one include, without EnumClasses.h, IDestroy.h and Compatibility.h.
 
 #include <GenApi/Autovector.h>
 #include <GenApi/Container.h>
@@ -26,6 +26,5 @@
 #include <GenApi/Synch.h>
 #include <GenApi/Types.h>
 
-// These two need the others before them.
-#include <GenApi/IDestroy.h>
+// This one needs others before it.
 #include <GenApi/ISelector.h>

@@ -85,8 +85,6 @@ const char* GenericException::what() const noexcept
                            pEntryPoint, pErrorNodeName, pExceptionType)                                      \
     {                                                                                                        \
     }                                                                                                        \
-    Name::Name(const Name& other) = default;                                                                 \
-    Name& Name::operator=(const Name& other) = default;                                                      \
     Name::~Name() noexcept = default;
 
 DEFINE_EXCEPTION(BadAllocException)

@@ -1,10 +1,13 @@
 #include <Base/GCException.h>
 #include <Base/GCString.h>
 
+#include <algorithm>
 #include <istream>
+#include <memory>
 #include <new>
 #include <ostream>
 #include <string>
+#include <type_traits>
 
 namespace GENICAM_NAMESPACE {
 
@@ -61,8 +64,7 @@ gcstring::gcstring(const gcstring& str)
 
 gcstring::~gcstring()
 {
-    using std::string;
-    textIn(m_opaque).~string();
+    std::destroy_at(&textIn(m_opaque));
 }
 
 gcstring& gcstring::append(const gcstring& str)
@@ -79,8 +81,7 @@ gcstring& gcstring::append(size_t count, char ch)
 
 gcstring& gcstring::assign(const gcstring& str)
 {
-    textIn(m_opaque) = textIn(str.m_opaque);
-    return *this;
+    return *this = str;
 }
 
 gcstring& gcstring::assign(size_t count, char ch)
@@ -220,7 +221,9 @@ gcstring::operator const char*() const
 
 gcstring& gcstring::operator=(const gcstring& str)
 {
-    return assign(str);
+    if (this != &str)
+        textIn(m_opaque) = textIn(str.m_opaque);
+    return *this;
 }
 
 gcstring& gcstring::operator+=(const gcstring& str)
