@@ -1,0 +1,380 @@
+#include "popupplacement.h"
+#include "qtzetodoubleslider.h"
+#include "qtzetodoublespinboxval.h"
+#include "qtzetogainslider.h"
+#include "qtzetoslider.h"
+#include "qtzetosliderspinbox.h"
+#include "qtzetospinbox.h"
+#include "qtzetospinboxval.h"
+#include "qtzetospinboxval64.h"
+#include "testmain.h"
+#include "widgetdriver.h"
+
+#include <QLabel>
+#include <QMetaMethod>
+#include <QSlider>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <QtTest>
+
+Q_DECLARE_METATYPE(const QMetaObject*)
+
+namespace {
+
+/// A composite in a window that has somewhere else to go for the focus.
+template <typename Composite>
+struct Window : QWidget
+{
+    Composite composite{this};
+    QToolButton other{this};
+
+    Window()
+    {
+        auto* const layout = new QVBoxLayout(this);
+        layout->addWidget(&composite);
+        layout->addWidget(&other);
+        other.setObjectName(QStringLiteral("other"));
+        setGeometry(50, 400, 600, 200);
+    }
+};
+
+template <typename Value, typename Composite>
+void watch(SignalLog& log, const Composite& composite)
+{
+    log.watch(&composite, qOverload<Value>(&Composite::valueChanged), "value");
+    log.watch(&composite, &Composite::rangeChanged, "range");
+}
+
+QString ownMethods(const QMetaObject& meta)
+{
+    QStringList methods;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
+        methods << QString::fromLatin1(meta.method(i).methodSignature());
+    return methods.join(QLatin1Char(' '));
+}
+
+QString classInfo(const QMetaObject& meta)
+{
+    QStringList infos;
+    for (int i = meta.classInfoOffset(); i < meta.classInfoCount(); ++i)
+        infos << QLatin1String(meta.classInfo(i).name()) + QLatin1Char(' ') +
+                     QLatin1String(meta.classInfo(i).value());
+    return infos.join(QLatin1String(", "));
+}
+
+} // namespace
+
+class TestQtZetoComposites : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void declares_data();
+    void declares();
+    void sliderSpinBox_data();
+    void sliderSpinBox();
+    void gainSlider_data();
+    void gainSlider();
+    void spinBox_data();
+    void spinBox();
+    void popupOpensAndCloses();
+    void popupGoesWithItsOwner();
+    void placesPopup_data();
+    void placesPopup();
+    void labelsComeAndGo();
+    void releaseTellsTheTextToo();
+};
+
+void TestQtZetoComposites::declares_data()
+{
+    QTest::addColumn<const QMetaObject*>("meta");
+    QTest::addColumn<QString>("methods");
+    QTest::addColumn<QString>("infos");
+    const auto row = [](const QMetaObject& meta, const char* methods, const char* version) {
+        QTest::newRow(meta.className())
+            << &meta << methods
+            << QStringLiteral("author Zeto, version 1.0.1, date %1").arg(QLatin1String(version));
+    };
+    row(QtZetoSpinBoxVal::staticMetaObject, "setValue(int)", "07/20/16");
+    row(QtZetoDoubleSpinBoxVal::staticMetaObject, "setValue(double)", "08/01/16");
+    row(QtZetoSlider::staticMetaObject,
+        "focusOut() valueChanged(int) sliderPressed() sliderMoved(int) sliderReleased() "
+        "rangeChanged(int,int) "
+        "setValue(int) setRange(int,int)",
+        "07/15/16");
+    row(QtZetoDoubleSlider::staticMetaObject,
+        "focusOut() valueChanged(double) sliderPressed() sliderMoved(int) sliderReleased() "
+        "rangeChanged(double,double) setValue(double) setRange(double,double)",
+        "08/01/16");
+    row(QtZetoSpinBox::staticMetaObject,
+        "valueChanged(int) rangeChanged(int,int) setRange(int,int) setValue(int)", "06/30/16");
+    row(QtZetoSliderSpinBox::staticMetaObject,
+        "valueChanged(int) rangeChanged(int,int) setValue(int) setRange(int,int)", "06/30/16");
+    row(QtZetoGainSlider::staticMetaObject,
+        "valueChanged(double) rangeChanged(double,double) setValue(double) setRange(double,double)",
+        "08/01/16");
+}
+
+void TestQtZetoComposites::declares()
+{
+    QFETCH(const QMetaObject*, meta);
+    QTEST(ownMethods(*meta), "methods");
+    QTEST(classInfo(*meta), "infos");
+}
+
+void TestQtZetoComposites::sliderSpinBox_data()
+{
+    QTest::addColumn<QString>("script");
+    QTest::addColumn<QString>(
+        "expected"); // of a logarithmic composite at 90 in [0, 990]; at last what it holds
+
+    QTest::newRow("slider keys") << "@slider Right Right Left"
+                                 << "value 92, value 95, value 92, 92=92@201";
+    QTest::newRow("spin box keys") << "@spinbox Up Up"
+                                   << "value 91, value 92, 92=92@201";
+    QTest::newRow("typed value beside the scale") << "@spinbox Ctrl+A type:985"
+                                                  << "value 9, value 98, value 985, 985=985@300";
+    QTest::newRow("Enter is no change") << "@spinbox Return Enter"
+                                        << "90=90@200";
+    QTest::newRow("wheel") << "@slider wheel+ @spinbox wheel-"
+                           << "value 97, value 96, 96=96@203";
+    QTest::newRow("a drag tells its end") << "@slider press drag:250 drag:280 release"
+                                          << "value 621, 621=621@280";
+    QTest::newRow("a drag that goes on tells nothing") << "@slider press drag:250 drag:280"
+                                                       << "90=621@280";
+    QTest::newRow("a drag back tells the value again") << "@slider press drag:280 drag:200 release"
+                                                       << "value 90, 90=90@200";
+    QTest::newRow("a press alone tells nothing") << "@slider press release"
+                                                 << "90=90@200";
+    QTest::newRow("keys after a drag") << "@slider press drag:280 release Right"
+                                       << "value 621, value 636, 636=636@281";
+}
+
+void TestQtZetoComposites::sliderSpinBox()
+{
+    QFETCH(const QString, script);
+    Window<QtZetoSliderSpinBox> window;
+    QtZetoSliderSpinBox& composite = window.composite;
+    composite.setRange(0, 990);
+    composite.slider()->setScaleMode(QtZetoSlider::Logarithmic);
+    composite.setValue(90);
+    QVERIFY(showActive(&window));
+    SignalLog log;
+    watch<int>(log, composite);
+    drive(&composite, script);
+    log.add(QStringLiteral("%1=%2@%3")
+                .arg(composite.value())
+                .arg(composite.slider()->value())
+                .arg(composite.slider()->slider()->value()));
+    QTEST(log.take(), "expected");
+}
+
+void TestQtZetoComposites::gainSlider_data()
+{
+    QTest::addColumn<QString>("script");
+    QTest::addColumn<QString>(
+        "expected"); // of a composite at 1.5 in [0, 4.2] with step 0.1; at last what it holds
+
+    QTest::newRow("slider keys") << "@slider Right Left"
+                                 << "value 1.6, value 1.5, 1.5=1.5";
+    QTest::newRow("typed value beside the steps")
+        << "@spinbox Ctrl+A type:2.345"
+        << "value 2, value 2.3, value 2.34, value 2.345, 2.345=2.345";
+    QTest::newRow("a drag tells all the while") << "@slider press drag:20 drag:30 release"
+                                                << "value 2, value 3, 3=3";
+    QTest::newRow("the end") << "@slider End End"
+                             << "value 4.2, 4.2=4.2";
+    QTest::newRow("rounding makes no second change") << "@slider Home Right Right Right"
+                                                     << "value 0, value 0.1, value 0.2, value 0.3, 0.3=0.3";
+}
+
+void TestQtZetoComposites::gainSlider()
+{
+    QFETCH(const QString, script);
+    Window<QtZetoGainSlider> window;
+    QtZetoGainSlider& composite = window.composite;
+    SignalLog log;
+    watch<double>(log, composite);
+    composite.setSingleStep(0.1);
+    composite.setRange(0.0, 4.2);
+    composite.setRange(0.0, 4.2);
+    composite.setValue(1.5);
+    QCOMPARE(log.take(), QStringLiteral("range 0 4.2, value 1.5"));
+    QVERIFY(showActive(&window));
+    drive(&composite, script);
+    log.add(QStringLiteral("%1=%2").arg(composite.value()).arg(composite.slider()->value()));
+    QTEST(log.take(), "expected");
+}
+
+void TestQtZetoComposites::spinBox_data()
+{
+    QTest::addColumn<bool>("onRelease"); // as a camera feature binds it: told on release, typed text by Enter
+    QTest::addColumn<QString>("script");
+    QTest::addColumn<QString>("expected"); // of a composite at 50 in [0, 100]; at last what it holds
+
+    QTest::newRow("spin box keys") << false << "@spinbox Up Up Down"
+                                   << "value 51, value 52, value 51, 51=51";
+    QTest::newRow("typing") << false << "@spinbox Ctrl+A type:78"
+                            << "value 7, value 78, 78=78";
+    QTest::newRow("popup keys") << false << "@button Space @slider Right End"
+                                << "value 51, value 100, 100=100";
+    QTest::newRow("popup drag") << false << "@button Space @slider press drag:70 drag:30 release"
+                                << "value 70, value 30, 30=30";
+    QTest::newRow("Escape keeps what was picked") << false << "@button Space @slider Right Escape"
+                                                  << "value 51, 51=51";
+    QTest::newRow("popup drag, told once") << true << "@button Space @slider press drag:70 drag:30 release"
+                                           << "value 30, 30=30";
+    QTest::newRow("Escape while dragging loses nothing")
+        << true << "@button Space @slider press drag:70 Escape"
+        << "value 70, 70=70";
+    QTest::newRow("typing, told by Enter") << true << "@spinbox Ctrl+A type:78 Return Return"
+                                           << "value 78, 78=78";
+    QTest::newRow("typing, lost with the focus") << true << "@spinbox Ctrl+A type:78 Tab"
+                                                 << "50=50";
+    QTest::newRow("opening and closing") << true << "@button Space @slider Escape"
+                                         << "50=50";
+}
+
+void TestQtZetoComposites::spinBox()
+{
+    QFETCH(const bool, onRelease);
+    QFETCH(const QString, script);
+    Window<QtZetoSpinBox> window;
+    QtZetoSpinBox& composite = window.composite;
+    composite.setOrientation(Qt::Horizontal);
+    composite.setValue(50);
+    if (onRelease) {
+        composite.setKeyboardTracking(false);
+        composite.setCommitsOnRelease(true);
+    }
+    QVERIFY(showActive(&window));
+    composite.slider()->setMinimumWidth(400); // a pixel for each value
+    SignalLog log;
+    watch<int>(log, composite);
+    drive(&composite, script);
+    log.add(QStringLiteral("%1=%2").arg(composite.value()).arg(composite.slider()->value()));
+    QTEST(log.take(), "expected");
+}
+
+void TestQtZetoComposites::popupOpensAndCloses()
+{
+    Window<QtZetoSpinBox> window;
+    QtZetoSpinBox& composite = window.composite;
+    QCOMPARE(composite.button()->text(), QStringLiteral("^"));
+    QVERIFY(showActive(&window));
+
+    drive(&composite, QStringLiteral("@button click"));
+    const QtZetoSlider* const popup = composite.slider();
+    const QRect button(composite.button()->mapToGlobal(QPoint()), composite.button()->size());
+    QVERIFY(popup->isVisible());
+    QCOMPARE(popup->geometry().bottomLeft(), button.topLeft() - QPoint(0, 1));
+    QVERIFY(popup->height() >= 100);
+    QTRY_VERIFY(popup->slider()->hasFocus());
+    drive(&composite, QStringLiteral("@slider Escape"));
+    QVERIFY(!popup->isVisible());
+    QTRY_VERIFY(composite.button()->hasFocus());
+
+    composite.setOrientation(Qt::Horizontal);
+    QCOMPARE(composite.button()->text(), QStringLiteral(">"));
+    drive(&composite, QStringLiteral("@button Space"));
+    QCOMPARE(popup->geometry().topLeft(), button.topRight() + QPoint(1, 0));
+    QTest::mouseClick(composite.slider(), Qt::LeftButton, {},
+                      QPoint(-20, -20)); // as Qt tells it of a click elsewhere
+    QVERIFY(!popup->isVisible());
+}
+
+void TestQtZetoComposites::popupGoesWithItsOwner()
+{
+    Window<QtZetoSpinBox> window;
+    QtZetoSpinBox& composite = window.composite;
+    QVERIFY(showActive(&window));
+    for (const bool disable : {true, false}) {
+        composite.button()->click();
+        QVERIFY(composite.slider()->isVisible());
+        disable ? composite.setEnabled(false) : composite.hide();
+        QVERIFY(!composite.slider()->isVisible());
+        composite.setEnabled(true);
+    }
+    composite.show();
+    composite.button()->click(); // destroyed while open
+}
+
+void TestQtZetoComposites::placesPopup_data()
+{
+    QTest::addColumn<QRect>("button");
+    QTest::addColumn<Qt::Orientation>("orientation");
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::addColumn<QRect>("expected"); // of a popup of 100 x 40 on a screen at (1000, 0) of 800 x 600
+
+    const auto row = [](const char* name, QPoint button, Qt::Orientation orientation,
+                        Qt::LayoutDirection direction, const QRect& expected) {
+        QTest::newRow(name) << QRect(button, QSize(20, 25)) << orientation << direction << expected;
+    };
+    row("right", {1300, 300}, Qt::Horizontal, Qt::LeftToRight, {1320, 300, 100, 40});
+    row("left where text runs left", {1300, 300}, Qt::Horizontal, Qt::RightToLeft, {1200, 300, 100, 40});
+    row("above", {1300, 300}, Qt::Vertical, Qt::LeftToRight, {1300, 260, 100, 40});
+    row("no room to the right", {1770, 300}, Qt::Horizontal, Qt::LeftToRight, {1670, 300, 100, 40});
+    row("no room to the left", {1010, 300}, Qt::Horizontal, Qt::RightToLeft, {1030, 300, 100, 40});
+    row("no room above", {1300, 10}, Qt::Vertical, Qt::LeftToRight, {1300, 35, 100, 40});
+    row("in the corner", {1790, 590}, Qt::Horizontal, Qt::LeftToRight, {1690, 560, 100, 40});
+    row("button beyond the screen", {1850, 300}, Qt::Vertical, Qt::LeftToRight, {1700, 260, 100, 40});
+    row("button before the screen", {900, -90}, Qt::Vertical, Qt::LeftToRight, {1000, 0, 100, 40});
+}
+
+void TestQtZetoComposites::placesPopup()
+{
+    QFETCH(const QRect, button);
+    QFETCH(const Qt::Orientation, orientation);
+    QFETCH(const Qt::LayoutDirection, direction);
+    const QRect screen(1000, 0, 800, 600);
+    QTEST(popupGeometry(button, QSize(100, 40), orientation, direction, screen), "expected");
+    QCOMPARE(popupGeometry(button, QSize(5000, 40), orientation, direction, screen).width(), 800);
+}
+
+void TestQtZetoComposites::labelsComeAndGo()
+{
+    Window<QtZetoSpinBox> window;
+    QtZetoSpinBox& composite = window.composite;
+    const int bareHeight = composite.sizeHint().height();
+    auto* const outer = new QLabel(QStringLiteral("&Period [us]:"), &window);
+    outer->setBuddy(&composite);
+    QVERIFY(showActive(&window));
+    QCOMPARE(composite.spinBox()->accessibleName(), QStringLiteral("Period [us]"));
+    QCOMPARE(composite.slider()->slider()->accessibleName(), QStringLiteral("Period [us]"));
+
+    composite.setLabelLeft(QStringLiteral("&Width:"));
+    composite.setLabelUpper(QStringLiteral("Pulse"));
+    auto* const left = composite.findChild<QLabel*>(QStringLiteral("labelLeft"));
+    auto* const upper = composite.findChild<QLabel*>(QStringLiteral("labelUpper"));
+    QCOMPARE(left->buddy(), composite.spinBox());
+    QCOMPARE(composite.button()->accessibleName(), QStringLiteral("Width"));
+    QTRY_VERIFY(left->isVisible() && left->x() < composite.spinBox()->x());
+    QTRY_VERIFY(upper->isVisible() && upper->y() < composite.spinBox()->y());
+    QTRY_VERIFY(qAbs(upper->geometry().center().x() - composite.rect().center().x()) <= 1);
+
+    composite.setLabelLeft({});
+    composite.setLabelUpper({});
+    QVERIFY(!left->isVisible() && !upper->isVisible());
+    QCOMPARE(composite.sizeHint().height(), bareHeight);
+}
+
+void TestQtZetoComposites::releaseTellsTheTextToo()
+{
+    Window<QtZetoSliderSpinBox> window;
+    QtZetoSliderSpinBox& composite = window.composite;
+    composite.spinBox()->setSingleStep(10);
+    composite.spinBox()->setSnapToStep(true);
+    composite.setValue(50);
+    QVERIFY(showActive(&window));
+    SignalLog log;
+    log.watch(composite.spinBox(), qOverload<int>(&QSpinBox::valueChanged), "number");
+    const QSignalSpy texts(composite.spinBox(), SIGNAL(valueChanged(QString)));
+    watch<int>(log, composite);
+    drive(&composite, QStringLiteral("@slider press drag:70 drag:53 release"));
+    QCOMPARE(log.take(), QStringLiteral("number 50, value 50"));
+    QCOMPARE(texts.value(0).value(0).toString(), QStringLiteral("50"));
+    QCOMPARE(composite.slider()->value(), 50);
+}
+
+ZETO_TEST_MAIN(TestQtZetoComposites)
+#include "tst_qtzetocomposites.moc"

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QStringList>
+#include <QVariant>
+#include <QWidget>
+
+class QSlider;
+
+/// The signals of a few objects as one line: "name value, name value ...".
+class SignalLog
+{
+public:
+    template <typename Sender, typename Class, typename... Args>
+    void watch(const Sender* sender, void (Class::*signal)(Args...), const char* name)
+    {
+        QObject::connect(sender, signal, sender, [this, name](const Args&... args) {
+            QStringList words = {QLatin1String(name)};
+            (words.append(QVariant(args).toString()), ...);
+            m_lines.append(words.join(QLatin1Char(' ')));
+        });
+    }
+
+    void add(const QString& line) { m_lines.append(line); }
+    /// What was logged since the last call.
+    QString take();
+
+private:
+    QStringList m_lines;
+};
+
+/// Does to the parts of \a widget what a person does, one word after the other:
+/// "@name" gives the focus to the child of that name, or to the inner slider for "@slider", and drives it
+/// from here on; "type:42" types; "wheel+" and "wheel-" turn the wheel one notch; "press", "drag:40" and
+/// "release" hold the slider's handle at a position; "click" clicks with the mouse; any other word is a key.
+void drive(QWidget* widget, const QString& script);
+
+/// Shows \a widget and waits until it takes keys. \return whether it does.
+bool showActive(QWidget* widget);
