@@ -11,8 +11,6 @@ using namespace ZetoNodeMap;
 namespace ZetoSimulator {
 namespace {
 
-using AddressPart = uint32_t NetworkAddress::*;
-
 /// Builds the features of one interface.
 class InterfaceFeatures
 {
@@ -26,9 +24,12 @@ public:
     {
         m_builder.category("Root");
         m_builder.category("InterfaceInformation").in("Root").displayName("Interface Information");
-        m_builder.category("DeviceEnumeration").in("Root").displayName("Device Enumeration");
+        m_builder.category("DeviceEnumeration")
+            .in("Root")
+            .displayName("Device Enumeration")
+            .contains("DeviceUpdateList", "DeviceSelector");
         addIdentity();
-        addSelector();
+        addIdentityOfDevice();
         if (m_owner.setup().type == ZetoCam::InterfaceGigEVision) {
             addAdapter();
             addNetworkOfDevice();
@@ -36,6 +37,7 @@ public:
         }
         if (m_owner.setup().type == ZetoCam::InterfaceUSB3Vision)
             deviceText("DeviceUSBVersionDetected", [](SimulatedDeviceInfo&) { return "3.2"; });
+        addSelector();
         return m_builder.build();
     }
 
@@ -85,15 +87,19 @@ private:
     void addSelector()
     {
         SimulatedInterface& owner = m_owner;
-        m_builder.command("DeviceUpdateList").in("DeviceEnumeration").standard().onExecute([&owner] {
+        m_builder.command("DeviceUpdateList").standard().onExecute([&owner] {
             owner.ReEnumerateDevices(nullptr, 0);
         });
         m_builder.integer("DeviceSelector")
-            .in("DeviceEnumeration")
             .standard()
             .limits(0, Setting<int64_t>([&owner] { return static_cast<int64_t>(owner.found().size()) - 1; }))
             .availableIf([&owner] { return !owner.found().empty(); })
+            .selects(m_ofDevice)
             .value(0);
+    }
+
+    void addIdentityOfDevice()
+    {
         deviceText("DeviceID", [](SimulatedDeviceInfo& info) { return info.GetID(); });
         deviceText("DeviceVendorName", [](SimulatedDeviceInfo& info) { return info.GetVendor(); });
         deviceText("DeviceModelName", [](SimulatedDeviceInfo& info) { return info.GetModel(); });
@@ -145,6 +151,7 @@ private:
     template <typename Read>
     void deviceText(const char* name, Read read)
     {
+        m_ofDevice.emplace_back(name);
         ofDevice(m_builder.string(name)).onRead([&owner = m_owner, read](const NodeMap& map) {
             return std::string(read(selected(owner, map)));
         });
@@ -153,6 +160,7 @@ private:
     template <typename Read>
     void deviceNumber(const char* name, GenApi::ERepresentation representation, Read read)
     {
+        m_ofDevice.emplace_back(name);
         ofDevice(m_builder.integer(name))
             .representation(representation)
             .onRead([&owner = m_owner, read](const NodeMap& map) { return read(selected(owner, map)); });
@@ -163,15 +171,14 @@ private:
     Builder ofDevice(Builder builder)
     {
         SimulatedInterface& owner = m_owner;
-        return builder.in("DeviceEnumeration")
-            .standard()
-            .access(GenApi::RO)
-            .availableIf([&owner] { return !owner.found().empty(); })
-            .invalidatedBy({"DeviceSelector"});
+        return builder.in("DeviceEnumeration").standard().access(GenApi::RO).availableIf([&owner] {
+            return !owner.found().empty();
+        });
     }
 
     SimulatedInterface& m_owner;
     NodeMapBuilder m_builder;
+    std::vector<std::string> m_ofDevice; ///< the features that DeviceSelector selects
 };
 
 } // namespace
