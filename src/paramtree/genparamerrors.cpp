@@ -6,14 +6,14 @@
 
 namespace {
 
-/// The feature's name; what else identifies it when a failing camera does not even tell that.
+/// The feature's name or display name; empty when a failing camera does not even tell that.
 QString nameOf(GenApi::IValue& feature)
 {
     const auto node = [&feature]() -> GenApi::INode& { return dynamic_cast<GenApi::INode&>(feature); };
     QString name = genApiOr(QString(), [&] { return fromGenApi(node().GetName()); });
     if (!name.isEmpty())
         return name;
-    return genApiOr(QStringLiteral("?"), [&] { return fromGenApi(node().GetDisplayName()); });
+    return genApiOr(QString(), [&] { return fromGenApi(node().GetDisplayName()); });
 }
 
 } // namespace
@@ -52,7 +52,9 @@ void GenParamErrors::add(GenApi::IValue& feature, const QString& reason, Origin 
     if (entry != m_entries.constEnd() && entry->reason == reason && entry->origin == origin)
         return;
     remove(feature);
-    const QString name = nameOf(feature);
+    QString name = nameOf(feature);
+    if (name.isEmpty())
+        name = QStringLiteral("?%1").arg(++m_unnamed);
     m_entries.insert(&feature, {name, reason, origin});
     m_appeared(name, reason);
 }

@@ -46,4 +46,5 @@ private:
     Appeared m_appeared;
     Disappeared m_disappeared;
     QHash<const GenApi::IValue*, Entry> m_entries;
+    int m_unnamed = 0; ///< features that were given a number for a name
 };

@@ -180,6 +180,8 @@ QString descriptionLine(const Subject& subject)
 
 QString streamableLine(const Subject& subject)
 {
+    if (subject.kind == GenParamKind::Category)
+        return QString();
     return Texts::tr("<i>Streamable:</i> %1").arg(yesNo(subject.node.IsStreamable()));
 }
 
@@ -199,6 +201,8 @@ QString cachingName(GenApi::ECachingMode mode)
 
 QString cachableLine(const Subject& subject)
 {
+    if (subject.kind == GenParamKind::Category)
+        return QString();
     return Texts::tr("<i>Cachable:</i> %1").arg(cachingName(subject.node.GetCachingMode()));
 }
 
