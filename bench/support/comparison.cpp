@@ -105,5 +105,6 @@ int runComparisons(int argc, char** argv)
     std::printf("%-62s %10s %-8s %10s %8s %8s\n", "", "figure", "", "peer us", "ratio", "at most");
     for (const Line& line : lines())
         print(line, times);
+    benchmark::ClearRegisteredBenchmarks(); // what they captured must not outlive the application
     return EXIT_SUCCESS;
 }
