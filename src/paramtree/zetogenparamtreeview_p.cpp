@@ -204,11 +204,13 @@ void ZetoGenParamTreeViewPrivate::focusFilter()
 
 void ZetoGenParamTreeViewPrivate::enterTree()
 {
+    if (m_proxy) {
+        QModelIndex row = ui.treeView->currentIndex();
+        if (!ui.filterLineEdit->text().isEmpty() && (!row.isValid() || isCategory(row)))
+            row = firstHit();
+        ui.treeView->setCurrentIndex(row.isValid() ? row : m_proxy->index(0, 0));
+    }
     ui.treeView->setFocus(Qt::ShortcutFocusReason);
-    if (!m_proxy || ui.treeView->currentIndex().isValid())
-        return;
-    const QModelIndex hit = ui.filterLineEdit->text().isEmpty() ? QModelIndex() : firstHit();
-    ui.treeView->setCurrentIndex(hit.isValid() ? hit : m_proxy->index(0, 0));
 }
 
 QModelIndex ZetoGenParamTreeViewPrivate::firstHit(const QModelIndex& parent) const
