@@ -20,6 +20,7 @@ struct GENAPI_DECL_ABSTRACT IEnumeration : virtual public IValue
     /// entry is not available, InvalidArgumentException if there is no such entry.
     virtual void SetIntValue(int64_t Value, bool Verify = true) = 0;
 
+    /// The symbolic name of the chosen entry, as by ToString().
     virtual GENICAM_NAMESPACE::gcstring operator*() = 0;
 
     /// The integer value; AccessException if it cannot be read.

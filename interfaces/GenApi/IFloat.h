@@ -12,14 +12,17 @@ struct GENAPI_DECL_ABSTRACT IFloat : virtual public IValue
     /// limits; the increment is not checked.
     virtual void SetValue(double Value, bool Verify = true) = 0;
 
+    /// SetValue().
     virtual IFloat& operator=(double Value) = 0;
 
     /// Reads the value; AccessException if it cannot be read. \a Verify checks it against its limits,
     /// \a IgnoreCache asks the device in any case.
     virtual double GetValue(bool Verify = false, bool IgnoreCache = false) = 0;
 
+    /// GetValue().
     virtual double operator()() = 0;
 
+    /// GetValue().
     virtual double operator*() = 0;
 
     /// The lower limit, imposed ones included; -DBL_MAX if there is none.

@@ -12,14 +12,17 @@ struct GENAPI_DECL_ABSTRACT IInteger : virtual public IValue
     /// limits or off the increment, LogicalErrorException if the increment is not positive.
     virtual void SetValue(int64_t Value, bool Verify = true) = 0;
 
+    /// SetValue().
     virtual IInteger& operator=(int64_t Value) = 0;
 
     /// Reads the value; AccessException if it cannot be read. \a Verify checks it against its limits,
     /// \a IgnoreCache asks the device in any case.
     virtual int64_t GetValue(bool Verify = false, bool IgnoreCache = false) = 0;
 
+    /// GetValue().
     virtual int64_t operator()() = 0;
 
+    /// GetValue().
     virtual int64_t operator*() = 0;
 
     /// The lower limit, imposed ones included. All of int64_t is possible.

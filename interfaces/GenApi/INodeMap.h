@@ -34,6 +34,7 @@ struct GENAPI_DECL_ABSTRACT INodeMap
     /// The lock that every call on a node takes. Hold it to make several calls consistent.
     virtual CLock& GetLock() const = 0;
 
+    /// The number of all nodes.
     virtual uint64_t GetNumNodes() const = 0;
 
 protected:
