@@ -29,16 +29,6 @@ void FeatureTreeView::expandRows(const QModelIndexList& rows)
     executeDelayedItemsLayout();
 }
 
-void FeatureTreeView::dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight,
-                                  const QVector<int>& roles)
-{
-    // The base class would put the camera's value into an open editor, over what the person types.
-    if (isPersistentEditorOpen(topLeft))
-        update(topLeft);
-    else
-        QTreeView::dataChanged(topLeft, bottomRight, roles);
-}
-
 void FeatureTreeView::editValue()
 {
     const QModelIndex row = currentIndex().siblingAtColumn(0);

@@ -2,8 +2,7 @@
 
 #include <QTreeView>
 
-/// The tree of names (column 0) and values (column 1): editing and copying from keyboard and context menu,
-/// and editors that a refresh does not disturb.
+/// The tree of names (column 0) and values (column 1): editing and copying from keyboard and context menu.
 class FeatureTreeView : public QTreeView
 {
     Q_OBJECT
@@ -13,9 +12,6 @@ public:
 
     /// Expands all of \a rows with one layout instead of one for each.
     void expandRows(const QModelIndexList& rows);
-
-    void dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight,
-                     const QVector<int>& roles = QVector<int>()) override;
 
 public slots:
     /// Edits the value of the current row; opens or closes a category.

@@ -46,6 +46,11 @@ void GenParamErrors::writeSucceeded(const GenApi::IValue& feature)
     remove(feature);
 }
 
+QString GenParamErrors::reason(const GenApi::IValue& feature) const
+{
+    return m_entries.value(&feature).reason;
+}
+
 void GenParamErrors::add(GenApi::IValue& feature, const QString& reason, Origin origin)
 {
     const auto entry = m_entries.constFind(&feature);

@@ -27,6 +27,9 @@ public:
     void readSucceeded(const GenApi::IValue& feature, bool valueChanged);
     void writeSucceeded(const GenApi::IValue& feature);
 
+    /// What was reported about \a feature; null when it is not in error.
+    QString reason(const GenApi::IValue& feature) const;
+
 private:
     enum class Origin : quint8
     {

@@ -1,5 +1,6 @@
 #include "genparamtreemodel.h"
 
+#include "editors/controldata.h"
 #include "genapiguard.h"
 #include "genparamtooltip.h"
 #include "genparamtreemodel_p.h"
@@ -53,6 +54,7 @@ GenParamTreeModel::GenParamTreeModel(GenApi::INodeMap* nodeMap, QObject* parent)
 {
     qRegisterMetaType<QVector<int>>("QVector<int>");
     qRegisterMetaType<GenApi::IValue*>("GenApi::IValue*");
+    registerControlTypes();
     d_ptr->attach(nodeMap);
 }
 
@@ -162,6 +164,12 @@ QVariant GenParamTreeModel::data(const QModelIndex& index, int role) const
         return background(item);
     case FeatureRole:
         return QVariant::fromValue(item.feature);
+    case ControlRole:
+        return index.column() == ValueColumn ? d_ptr->control(item) : QVariant();
+    case ErrorRole:
+        return d_ptr->error(item);
+    case BusyRole:
+        return d_ptr->isBusy(item);
     default:
         return QVariant();
     }

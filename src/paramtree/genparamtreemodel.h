@@ -46,8 +46,11 @@ public:
     };
     enum Role
     {
-        FeatureRole = Qt::UserRole,    ///< the row's GenApi::IValue*, in both columns
-        ControlRole = Qt::UserRole + 1 ///< reserved for the editor prepared for the feature
+        FeatureRole = Qt::UserRole, ///< the row's GenApi::IValue*, in both columns
+        ControlRole =
+            Qt::UserRole + 1, ///< ControlData with an editor for a writable feature, new at each query
+        ErrorRole,            ///< why the feature is in error; a null text when it is not
+        BusyRole,             ///< whether the camera still works on the command
     };
 
     /// A null \a nodeMap, or one without a category "Root", gives an empty tree.

@@ -1,5 +1,6 @@
 #include "genparamtreemodel_p.h"
 
+#include "editors/parameditorfactory.h"
 #include "genapiguard.h"
 #include "genparamwriting.h"
 
@@ -35,6 +36,7 @@ GenParamTreeModelPrivate::GenParamTreeModelPrivate(GenParamTreeModel* model)
     , m_errors(
           [this](const QString& name, const QString& reason) { emit q_ptr->errorAppeared(name, reason); },
           [this](const QString& name) { emit q_ptr->errorDisappeared(name); })
+    , m_commands([this](GenApi::IValue& command) { emitDataChanged(*items.primary(&command)); })
 {
 }
 
@@ -78,6 +80,7 @@ void GenParamTreeModelPrivate::detach()
         locked.emplace(*lock);
     m_isAttached = false;
     m_nodeMap = nullptr;
+    m_commands.clear();
     if (!deregisterAll()) {
         static std::vector<std::shared_ptr<GenParamTreeModelPrivate>> stillReferred;
         stillReferred.push_back(shared_from_this());
@@ -208,7 +211,17 @@ QString GenParamTreeModelPrivate::displayTextOf(GenParamTreeItem& item)
             m_errors.readFailed(*item.feature, *fault);
         }
     }
+    if (isBusy(item))
+        return GenParamTreeModel::tr("Executing...");
     return displayText(item.kind, item.reading, format);
+}
+
+QVariant GenParamTreeModelPrivate::control(GenParamTreeItem& item)
+{
+    ensureRead(item);
+    if (!GenApi::IsWritable(accessMode(item)))
+        return QVariant();
+    return QVariant::fromValue(prepareEditor(*item.feature, item.kind));
 }
 
 GenApi::EAccessMode GenParamTreeModelPrivate::accessMode(const GenParamTreeItem& item) const
@@ -246,6 +259,8 @@ bool GenParamTreeModelPrivate::tryWrite(GenParamTreeItem& item, const QVariant& 
         isWritable = GenApi::IsWritable(item.feature);
         taken = isWritable && writeParam(*item.feature, item.kind, value);
     });
+    if (taken && m_isAttached && item.kind == GenParamKind::Command)
+        m_commands.started(*item.feature);
     if (!fault && isWritable && !taken)
         fault = GenParamTreeModel::tr("The value does not fit the type of the feature");
     if (fault && m_isAttached)

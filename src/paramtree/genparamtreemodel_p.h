@@ -1,5 +1,6 @@
 #pragma once
 
+#include "commandwatch.h"
 #include "genparamerrors.h"
 #include "genparamtreeitems.h"
 #include "genparamtreemodel.h"
@@ -35,6 +36,11 @@ public:
     QVariant valueData(GenParamTreeItem& item, int role);
     GenApi::EAccessMode accessMode(const GenParamTreeItem& item) const;
 
+    /// An editor for the feature as ControlData; nothing when it cannot be written or has none of its own.
+    QVariant control(GenParamTreeItem& item);
+    QString error(const GenParamTreeItem& item) const { return m_errors.reason(*item.feature); }
+    bool isBusy(const GenParamTreeItem& item) const { return m_commands.isBusy(*item.feature); }
+
     /// \return whether the camera took \a value.
     bool write(GenParamTreeItem& item, const QVariant& value);
 
@@ -69,6 +75,7 @@ private:
     GenApi::INodeMap* m_nodeMap = nullptr;
     std::vector<GenApi::CallbackHandleType> m_callbacks;
     GenParamErrors m_errors;
+    CommandWatch m_commands;
     const std::thread::id m_thread = std::this_thread::get_id();
 
     /// While it is set, changes made on the model's own thread are marked like those of other threads.

@@ -3,6 +3,7 @@
 #include "categories.h"
 #include "filteroptions.h"
 #include "generrorsdlg.h"
+#include "genparamdelegate.h"
 #include "genparamtreemodel.h"
 #include "genparamtreevisibilityfilterproxymodel.h"
 #include "treeviewstate.h"
@@ -10,7 +11,6 @@
 #include <ZetoCameraGuiApi/zetogenparamtreeview.h>
 
 #include <QShortcut>
-#include <QStyledItemDelegate>
 
 namespace ZetoGui {
 
@@ -40,7 +40,7 @@ ZetoGenParamTreeViewPrivate::ZetoGenParamTreeViewPrivate(ZetoGenParamTreeView& v
     , ui(formOf(view))
     , options(new FilterOptions(&view))
     , pollingTimer(new QTimer(&view))
-    , delegate(new QStyledItemDelegate(&view))
+    , delegate(new GenParamDelegate(&view))
     , m_resizer(*ui.treeView)
     , m_expansion(*ui.treeView)
     , m_place(*ui.treeView)

@@ -12,9 +12,9 @@
 
 class FilterOptions;
 class GenErrorsDlg;
+class GenParamDelegate;
 class GenParamTreeModel;
 class GenParamTreeVisibilityFilterProxyModel;
-class QStyledItemDelegate;
 class TreeViewState;
 
 namespace ZetoGui {
@@ -43,10 +43,10 @@ public:
 
     ZetoGenParamTreeView& q;
     Ui::GenParamTreeView ui;
-    FilterOptions* const options;        // child of the view
-    QTimer* const pollingTimer;          // child of the view
-    QStyledItemDelegate* const delegate; // child of the view
-    mutable QByteArray stateText;        // what saveState() returned last
+    FilterOptions* const options;     // child of the view
+    QTimer* const pollingTimer;       // child of the view
+    GenParamDelegate* const delegate; // child of the view
+    mutable QByteArray stateText;     // what saveState() returned last
 
 private:
     void setUpFilter();

@@ -182,6 +182,11 @@ void QtZetoSpinBoxVal64::stepBy(int steps)
     update();
 }
 
+void QtZetoSpinBoxVal64::interpretText()
+{
+    m_d->flushTypedText();
+}
+
 QString QtZetoSpinBoxVal64::textFromValue(qint64 value) const
 {
     return IntegerText::fromInteger(value, m_d->displayIntegerBase, locale(), isGroupSeparatorShown());

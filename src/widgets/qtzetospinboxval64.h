@@ -83,6 +83,9 @@ public:
     void fixup(QString& text) const override;
     void stepBy(int steps) override;
 
+    /// Commits or discards typed text at once, as leaving the field would.
+    void interpretText();
+
     virtual QString textFromValue(qint64 value) const;
     /// The number between prefix and suffix of \a text, or minimum() when it is not a value in range.
     virtual qint64 valueFromText(const QString& text) const;

@@ -1,0 +1,65 @@
+#include "choiceeditor.h"
+
+#include <QAbstractItemView>
+#include <QGuiApplication>
+#include <QStandardItemModel>
+#include <QTimer>
+#include <QWheelEvent>
+
+ChoiceEditor::ChoiceEditor(const QVector<VariantData>& choices)
+{
+    setFrame(false);
+    for (const VariantData& choice : choices)
+        add(choice);
+    connect(this, qOverload<int>(&QComboBox::currentIndexChanged), this, [this] { m_hasEdit = true; });
+}
+
+void ChoiceEditor::fill(const QModelIndex& index)
+{
+    // A value that is none of the choices is still what the camera holds.
+    setPlaceholderText(index.data(Qt::DisplayRole).toString());
+    setCurrentIndex(indexOf(index.data(Qt::EditRole)));
+    m_hasEdit = false;
+}
+
+bool ChoiceEditor::isBeingEdited() const
+{
+    return m_hasEdit || view()->isVisible();
+}
+
+QVariant ChoiceEditor::takeEdit()
+{
+    const bool hadEdit = m_hasEdit;
+    m_hasEdit = false;
+    return hadEdit ? currentData().value<VariantData>().value : QVariant();
+}
+
+/// A double click that opens the editor also opens its list.
+void ChoiceEditor::showEvent(QShowEvent* event)
+{
+    QComboBox::showEvent(event);
+    if (QGuiApplication::mouseButtons() != Qt::NoButton)
+        QTimer::singleShot(0, this, &QComboBox::showPopup);
+}
+
+/// A wheel that passes over the editor scrolls the tree; it must not write to the camera.
+void ChoiceEditor::wheelEvent(QWheelEvent* event)
+{
+    event->ignore();
+}
+
+void ChoiceEditor::add(const VariantData& choice)
+{
+    addItem(choice.text, QVariant::fromValue(choice));
+    auto* items = qobject_cast<QStandardItemModel*>(model());
+    items->item(count() - 1)->setEnabled(choice.isAvailable);
+}
+
+int ChoiceEditor::indexOf(const QVariant& editValue) const
+{
+    for (int i = 0; i < count(); ++i) {
+        if (itemData(i).value<VariantData>().editValue == editValue)
+            return i;
+    }
+    return -1;
+}

@@ -1,0 +1,24 @@
+#include "integereditor.h"
+
+IntegerEditor::IntegerEditor(const IntegerLimits& limits, int base, const QString& unit)
+    : m_limits(limits)
+{
+    setDiscardUnconfirmedEdit(false);
+    setDisplayIntegerBase(base);
+    setSuffix(unit);
+    setSingleStep(qMax(limits.increment, qint64{1}));
+}
+
+void IntegerEditor::showValue(const QVariant& value)
+{
+    const bool isNumber = value.userType() == QMetaType::LongLong;
+    const qint64 number =
+        isNumber ? value.toLongLong() : qBound(m_limits.minimum, qint64{0}, m_limits.maximum);
+    // What the camera holds is shown as it is, also out of its own limits or off its grid.
+    setRange(qMin(m_limits.minimum, number), qMax(m_limits.maximum, number));
+    setSnapToStep(false);
+    setValue(number);
+    setSnapToStep(m_limits.increment > 1 && minimum() == m_limits.minimum);
+    if (!isNumber)
+        clear();
+}

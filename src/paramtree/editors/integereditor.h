@@ -1,0 +1,26 @@
+#pragma once
+
+#include "numbereditor.h"
+#include "qtzetospinboxval64.h"
+
+#include <limits>
+
+struct IntegerLimits
+{
+    qint64 minimum = std::numeric_limits<qint64>::min();
+    qint64 maximum = std::numeric_limits<qint64>::max();
+    qint64 increment = 1;
+};
+
+/// Edits an integer within its limits and, above 1, on the grid of its increment.
+class IntegerEditor : public NumberEditor<QtZetoSpinBoxVal64>
+{
+public:
+    IntegerEditor(const IntegerLimits& limits, int base, const QString& unit);
+
+protected:
+    void showValue(const QVariant& value) override;
+
+private:
+    const IntegerLimits m_limits;
+};

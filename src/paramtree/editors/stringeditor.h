@@ -1,0 +1,18 @@
+#pragma once
+
+#include "texteditor.h"
+
+/// Edits a string. One that cannot be read is started from an empty text.
+class StringEditor : public TextEditor
+{
+public:
+    /// \a maximumBytes counts in UTF-8; 0 is no limit.
+    StringEditor(qint64 maximumBytes, bool isReadable);
+
+protected:
+    QString toText(const QVariant& editValue) const override;
+    QVariant toValue(const QString& text) const override;
+
+private:
+    const bool m_isReadable;
+};

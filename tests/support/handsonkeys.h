@@ -1,0 +1,7 @@
+#pragma once
+
+#include <QString>
+
+/// Does \a actions one after the other at the widget that has the focus then: 'text is typed, anything else
+/// is the name of a key or key sequence, as in "Down F2 '12 Return Ctrl+C".
+void pressKeys(const QString& actions);
