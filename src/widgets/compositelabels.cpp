@@ -56,7 +56,15 @@ void CompositeLabels::setLeft(const QString& text)
     const bool isNew = !m_left;
     setText(m_left, text, "labelLeft");
     if (isNew && m_left)
-        m_row->insertWidget(0, m_left);
+        insertLeft();
+}
+
+/// In line with the first part, which stands at the front and maybe at the top of the row.
+void CompositeLabels::insertLeft()
+{
+    const Qt::Alignment alignment = m_row->itemAt(0)->alignment();
+    m_left->setMinimumHeight(m_parts.first()->sizeHint().height());
+    m_row->insertWidget(0, m_left, 0, alignment);
 }
 
 QString CompositeLabels::upper() const

@@ -12,8 +12,8 @@ class QWidget;
 class CompositeLabels
 {
 public:
-    /// The left label goes to the front of \a row, the upper one to \a upperIndex of \a upperRow. The first
-    /// of \a parts is the buddy of both; all belong to \a composite.
+    /// The left label goes to the front of \a row, before the first of \a parts, the upper one to
+    /// \a upperIndex of \a upperRow. That part is the buddy of both; all belong to \a composite.
     CompositeLabels(QWidget* composite, QBoxLayout* row, QBoxLayout* upperRow, int upperIndex,
                     const QVector<QWidget*>& parts);
 
@@ -29,6 +29,7 @@ public:
 
 private:
     void setText(QLabel*& label, const QString& text, const char* name);
+    void insertLeft();
     QString nameOfComposite() const;
 
     QWidget* m_composite;

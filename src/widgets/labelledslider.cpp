@@ -2,7 +2,7 @@
 
 #include <QEvent>
 #include <QFrame>
-#include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QScopedValueRollback>
 
@@ -45,14 +45,18 @@ LabelledSlider::LabelledSlider(QFrame& frame)
     , m_labelMax(makeLabel(frame, QStringLiteral("labelMax")))
     , m_labelMin(makeLabel(frame, QStringLiteral("labelMin")))
     , m_slider(new ValueSlider(&frame))
-    , m_layout(new QGridLayout(&frame))
+    , m_column(new QVBoxLayout(&frame))
+    , m_row(new QHBoxLayout)
 {
     m_slider->setObjectName(QStringLiteral("slider"));
     m_slider->installEventFilter(this);
     frame.setFocusProxy(m_slider);
-    m_layout->setContentsMargins(0, 0, 0, 0);
-    m_layout->setHorizontalSpacing(labelSpacing);
-    m_layout->setVerticalSpacing(0);
+    m_column->setContentsMargins(0, 0, 0, 0);
+    m_column->setSpacing(0);
+    m_column->addWidget(m_slider);
+    m_column->addLayout(m_row);
+    m_row->setSpacing(labelSpacing);
+    m_row->addStretch();
     setOrientation(Qt::Vertical);
 
     connect(m_slider, &QSlider::actionTriggered, this, &LabelledSlider::takeAction);
@@ -64,18 +68,19 @@ LabelledSlider::LabelledSlider(QFrame& frame)
 
 void LabelledSlider::setOrientation(Qt::Orientation orientation)
 {
-    for (QWidget* const widget : {static_cast<QWidget*>(m_labelMax), static_cast<QWidget*>(m_labelMin),
-                                  static_cast<QWidget*>(m_slider)})
-        m_layout->removeWidget(widget);
+    for (QLabel* const label : {m_labelMin, m_labelMax}) {
+        m_row->removeWidget(label);
+        m_column->removeWidget(label);
+    }
     m_slider->setOrientation(orientation);
     if (orientation == Qt::Horizontal) {
-        m_layout->addWidget(m_slider, 0, 0, 1, 2);
-        m_layout->addWidget(m_labelMin, 1, 0, Qt::AlignLeft);
-        m_layout->addWidget(m_labelMax, 1, 1, Qt::AlignRight);
+        m_row->insertWidget(0, m_labelMin);
+        m_row->addWidget(m_labelMax);
+        m_column->setAlignment(m_slider, {});
     } else {
-        m_layout->addWidget(m_labelMax, 0, 0, Qt::AlignHCenter);
-        m_layout->addWidget(m_slider, 1, 0, Qt::AlignHCenter);
-        m_layout->addWidget(m_labelMin, 2, 0, Qt::AlignHCenter);
+        m_column->insertWidget(0, m_labelMax, 0, Qt::AlignHCenter);
+        m_column->insertWidget(2, m_labelMin, 0, Qt::AlignHCenter);
+        m_column->setAlignment(m_slider, Qt::AlignHCenter);
     }
 }
 

@@ -5,8 +5,9 @@
 #include <QObject>
 
 class QFrame;
-class QGridLayout;
+class QHBoxLayout;
 class QLabel;
+class QVBoxLayout;
 
 /// What the integer and the double slider have in common: a slider with its range as labels, laid out in a
 /// frame, that tells apart what the user did from what the program set.
@@ -49,6 +50,7 @@ private:
     QLabel* m_labelMax;
     QLabel* m_labelMin;
     ValueSlider* m_slider;
-    QGridLayout* m_layout;
+    QVBoxLayout* m_column;
+    QHBoxLayout* m_row; ///< below the slider, empty while that is upright
     bool m_setting = false;
 };

@@ -108,7 +108,7 @@ void QtZetoSpinBoxPrivate::setUpPopup()
     slider->setAttribute(
         Qt::WA_NoMouseReplay); // a click on the button while open shall close, not open again
     slider->setFrameStyle(int(QFrame::StyledPanel) | int(QFrame::Raised));
-    slider->setContentsMargins(popupMargin, popupMargin, popupMargin, popupMargin);
+    slider->layout()->setContentsMargins(popupMargin, popupMargin, popupMargin, popupMargin);
     QObject::connect(slider, &QtZetoSlider::focusOut, slider, &QWidget::hide);
     QObject::connect(button, &QToolButton::clicked, q, [this] { openPopup(); });
 }

@@ -40,6 +40,7 @@ SliderRow<Owner, SpinBox, Slider>::SliderRow(Owner* owner)
     , coupling(*spinBox, *slider, [owner](Value value) { emit owner->valueChanged(value); })
 {
     setUpLayout(owner);
+    setOrientation(Qt::Horizontal);
     connect(slider, &Slider::rangeChanged, this, [this, owner](Value min, Value max) {
         spinBox->setRange(min, max);
         emit owner->rangeChanged(min, max);
@@ -56,7 +57,7 @@ void SliderRow<Owner, SpinBox, Slider>::setUpLayout(Owner* owner)
     layoutH->setObjectName(QStringLiteral("layoutH"));
     spinBox->setObjectName(QStringLiteral("spinbox"));
     slider->setObjectName(QStringLiteral("slider"));
-    layoutH->addWidget(spinBox);
+    layoutH->addWidget(spinBox, 0, Qt::AlignTop);
     layoutH->addWidget(slider, 1);
     owner->setFocusProxy(spinBox);
 }
@@ -64,6 +65,9 @@ void SliderRow<Owner, SpinBox, Slider>::setUpLayout(Owner* owner)
 template <typename Owner, typename SpinBox, typename Slider>
 void SliderRow<Owner, SpinBox, Slider>::setOrientation(Qt::Orientation orientation)
 {
+    const bool beside = orientation == Qt::Horizontal;
     slider->setOrientation(orientation);
-    layoutH->setDirection(orientation == Qt::Horizontal ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    // the handle level with the number
+    slider->slider()->setMinimumHeight(beside ? spinBox->sizeHint().height() : 0);
+    layoutH->setDirection(beside ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
 }
