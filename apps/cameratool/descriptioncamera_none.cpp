@@ -1,0 +1,13 @@
+#include "descriptioncamera.h"
+
+#include <QCoreApplication>
+
+#include <stdexcept>
+
+std::unique_ptr<DescriptionCamera> openDescription(const QString&)
+{
+    throw std::runtime_error(
+        QCoreApplication::translate(
+            "DescriptionCamera", "Camera descriptions cannot be opened: the tool was built without Aravis.")
+            .toStdString());
+}
