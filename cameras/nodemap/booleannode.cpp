@@ -52,8 +52,7 @@ void BooleanNode::valueFromText(const GenICam::gcstring& text, bool verify)
 
 void BooleanNode::set(bool value, bool verify)
 {
-    if (verify)
-        requireWritable();
+    requireWritable(verify);
     writeValue(value);
 }
 

@@ -52,8 +52,7 @@ void CommandNode::valueFromText(const GenICam::gcstring&, bool verify)
 
 void CommandNode::execute(bool verify)
 {
-    if (verify || ZETO_GENAPI_VERSION >= 304)
-        requireWritable();
+    requireWritable(verify);
     m_source->execute();
     m_busy = true;
     invalidate();

@@ -19,7 +19,7 @@ Entry::Entry(std::unique_ptr<Declaration> declaration)
 Entry& Entry::clearsTo(int64_t next)
 {
     m_declaration->next = next;
-    return set(m_declaration->settings.selfClearing, true);
+    return selfClearing();
 }
 
 } // namespace ZetoNodeMap

@@ -4,6 +4,7 @@
 #include "featurebuilder.h"
 
 #include <memory>
+#include <optional>
 
 namespace ZetoNodeMap {
 
@@ -16,7 +17,9 @@ public:
     /// The number it stands for; without: its value.
     Entry& numericValue(double value) { return set(m_declaration->settings.numericValue, value); }
 
-    /// The camera goes on to the entry with the value \a next by itself.
+    /// The camera goes on to another entry by itself.
+    Entry& selfClearing() { return set(m_declaration->settings.selfClearing, true); }
+    /// The same for a value in memory: it becomes \a next.
     Entry& clearsTo(int64_t next);
 
 private:
@@ -24,7 +27,7 @@ private:
 
     struct Declaration : DeclarationOf<EnumEntryNode>
     {
-        int64_t next = 0;
+        std::optional<int64_t> next;
     };
 
     explicit Entry(std::unique_ptr<Declaration> declaration);

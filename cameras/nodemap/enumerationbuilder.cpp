@@ -31,8 +31,8 @@ EnumerationBuilder& EnumerationBuilder::entry(Entry& entry)
     declaration.info.name = "EnumEntry_" + settings.enumeration + "_" + settings.symbolic;
     if (m_entries.empty())
         memory().setInitial(settings.value);
-    if (settings.selfClearing)
-        memory().setCleared(settings.value, declaration.next);
+    if (declaration.next)
+        memory().setCleared(settings.value, *declaration.next);
     m_entries.emplace_back(settings.symbolic, settings.value);
     m_builder->add(std::move(entry.m_declaration));
     return *this;

@@ -158,11 +158,9 @@ void EnumerationNode::valueFromText(const GenICam::gcstring& text, bool verify)
 
 void EnumerationNode::set(EnumEntryNode& entry, bool verify)
 {
-    if (verify) {
-        requireWritable();
-        if (!GenApi::IsAvailable(entry.effectiveAccessMode()))
-            throwAccessError(name(), "entry '" + entry.symbolic() + "' is not available");
-    }
+    requireWritable(verify);
+    if (verify && !GenApi::IsAvailable(entry.effectiveAccessMode()))
+        throwAccessError(name(), "entry '" + entry.symbolic() + "' is not available");
     writeValue(entry.integerValue());
 }
 

@@ -178,10 +178,9 @@ double FloatNode::checkedValue(bool verify, bool ignoreCache)
 
 void FloatNode::set(double value, bool verify)
 {
-    if (verify) {
-        requireWritable();
+    requireWritable(verify);
+    if (verify)
         requireWithinLimits(value);
-    }
     writeValue(value);
 }
 

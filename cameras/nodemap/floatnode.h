@@ -46,10 +46,10 @@ public:
 protected:
     GenICam::gcstring valueToText(bool verify, bool ignoreCache) override;
     void valueFromText(const GenICam::gcstring& text, bool verify) override;
+    void set(double value, bool verify);
 
 private:
     double checkedValue(bool verify, bool ignoreCache);
-    void set(double value, bool verify);
     void requireWithinLimits(double value) const;
     std::string toText(double value) const;
     double min() const;

@@ -140,8 +140,8 @@ int64_t IntegerNode::checkedValue(bool verify, bool ignoreCache)
 
 void IntegerNode::set(int64_t value, bool verify)
 {
+    requireWritable(verify);
     if (verify) {
-        requireWritable();
         requireWithinLimits(value);
         requireAllowed(value);
     }

@@ -41,10 +41,10 @@ public:
 protected:
     GenICam::gcstring valueToText(bool verify, bool ignoreCache) override;
     void valueFromText(const GenICam::gcstring& text, bool verify) override;
+    void set(int64_t value, bool verify);
 
 private:
     int64_t checkedValue(bool verify, bool ignoreCache);
-    void set(int64_t value, bool verify);
     void requireWithinLimits(int64_t value) const;
     void requireAllowed(int64_t value) const;
     int64_t min() const;

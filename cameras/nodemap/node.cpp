@@ -107,8 +107,10 @@ void Node::requireReadable() const
         throwNotReadable(name(), mode);
 }
 
-void Node::requireWritable() const
+void Node::requireWritable(bool verify) const
 {
+    if (!verify && ZETO_GENAPI_VERSION < 304)
+        return;
     const GenApi::EAccessMode mode = effectiveAccessMode();
     if (!GenApi::IsWritable(mode))
         throwNotWritable(name(), mode);

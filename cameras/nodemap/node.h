@@ -113,7 +113,8 @@ protected:
     virtual void dropCache() {}
 
     void requireReadable() const;
-    void requireWritable() const;
+    /// The check on entry of a write: with \a verify always, without it since GenApi 3.4.
+    void requireWritable(bool verify) const;
     void requireImplemented() const;
     /// What limits and increments ask for; GenApi 3.0 does not.
     void requireAvailableLimits() const;

@@ -19,6 +19,9 @@ void NodeLinker::link(const std::vector<std::pair<Node*, const NodeReferences*>>
     for (const auto& [node, references] : declared)
         linkMembership(*node, *references);
     for (const auto& [node, references] : declared)
+        collectSelectors(*node);
+    breakSelectorCycles();
+    for (const auto& [node, references] : declared)
         finish(*node);
     if (Node* root = m_map.find("Root"))
         markFeatures(*root);
@@ -58,7 +61,6 @@ void NodeLinker::linkMembership(Node& node, const NodeReferences& references)
 
 void NodeLinker::finish(Node& node)
 {
-    linkSelectors(node);
     const auto isCachable = [](const Node* input) { return GenApi::IsCacheable(input->info().cachingMode); };
     node.m_accessModeCacheable = node.m_access.isTraceable() && node.isSourceAccessModeCacheable() &&
                                  std::all_of(node.m_children.begin(), node.m_children.end(), isCachable);
@@ -66,7 +68,7 @@ void NodeLinker::finish(Node& node)
         m_map.m_polled.push_back({&node, node.m_info.pollingTime, 0});
 }
 
-void NodeLinker::linkSelectors(Node& node)
+void NodeLinker::collectSelectors(Node& node)
 {
     node.m_selectors = node.m_selecting;
     for (size_t next = 0; next < node.m_selectors.size(); ++next) {
@@ -74,9 +76,22 @@ void NodeLinker::linkSelectors(Node& node)
         for (Node* selector : further)
             addOnce(node.m_selectors, *selector);
     }
-    const auto itself = std::find(node.m_selectors.begin(), node.m_selectors.end(), &node);
-    if (itself != node.m_selectors.end())
-        node.m_selectors.erase(itself);
+}
+
+/// A selector that the node selects in its turn cannot decide which instance of the node is meant.
+void NodeLinker::breakSelectorCycles()
+{
+    std::vector<std::pair<Node*, Node*>> mutual;
+    for (const auto& node : m_map.m_nodes) {
+        for (Node* selector : node->m_selectors) {
+            if (contains(selector->m_selectors, *node))
+                mutual.emplace_back(node.get(), selector);
+        }
+    }
+    for (const auto& [node, selector] : mutual) {
+        Links& selectors = node->m_selectors;
+        selectors.erase(std::find(selectors.begin(), selectors.end(), selector));
+    }
 }
 
 void NodeLinker::markFeatures(Node& category)
@@ -125,9 +140,14 @@ void NodeLinker::addChild(Node& parent, Node& child)
     addOnce(child.m_parents, parent);
 }
 
+bool NodeLinker::contains(const Links& links, const Node& node)
+{
+    return std::find(links.begin(), links.end(), &node) != links.end();
+}
+
 void NodeLinker::addOnce(Links& links, Node& node)
 {
-    if (std::find(links.begin(), links.end(), &node) == links.end())
+    if (!contains(links, node))
         links.push_back(&node);
 }
 

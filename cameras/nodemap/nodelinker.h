@@ -25,7 +25,8 @@ private:
 
     void linkNode(Node& node, const NodeReferences& references);
     void linkMembership(Node& node, const NodeReferences& references);
-    void linkSelectors(Node& node);
+    static void collectSelectors(Node& node);
+    void breakSelectorCycles();
     void finish(Node& node);
     void markFeatures(Node& category);
 
@@ -36,6 +37,7 @@ private:
     static void addDependent(Node& node, Node& dependent);
     static void addInvalidator(Node& node, Node& invalidator);
     static void addChild(Node& parent, Node& child);
+    static bool contains(const Links& links, const Node& node);
     static void addOnce(Links& links, Node& node);
 
     NodeMap& m_map;

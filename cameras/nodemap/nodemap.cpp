@@ -93,6 +93,16 @@ void NodeMap::setAccessMode(std::string_view name, GenApi::EAccessMode mode)
     change(nullptr, nullptr, [&] { node(name).setDeclaredAccessMode(mode); });
 }
 
+void NodeMap::deliverEvent(std::string_view eventId)
+{
+    change(nullptr, nullptr, [&] {
+        for (const auto& node : m_nodes) {
+            if (!eventId.empty() && node->info().eventId == eventId)
+                node->invalidate();
+        }
+    });
+}
+
 void NodeMap::setAccessHook(AccessHook hook)
 {
     const Call call(*this, nullptr, nullptr);

@@ -62,8 +62,7 @@ void RegisterNode::valueFromText(const GenICam::gcstring& text, bool verify)
 
 void RegisterNode::set(const std::vector<uint8_t>& bytes, bool verify)
 {
-    if (verify)
-        requireWritable();
+    requireWritable(verify);
     writeValue(bytes);
 }
 

@@ -62,12 +62,16 @@ GenICam::gcstring StringNode::valueToText(bool verify, bool ignoreCache)
 
 void StringNode::valueFromText(const GenICam::gcstring& text, bool verify)
 {
-    if (verify)
-        requireWritable();
-    if (static_cast<int64_t>(text.size()) > source().maxLength())
+    set(fromGenICam(text), verify);
+}
+
+void StringNode::set(const std::string& value, bool verify)
+{
+    requireWritable(verify);
+    if (static_cast<int64_t>(value.size()) > source().maxLength())
         throwInvalidArgument(name(),
                              "text is longer than " + std::to_string(source().maxLength()) + " bytes");
-    writeValue(fromGenICam(text));
+    writeValue(value);
 }
 
 } // namespace ZetoNodeMap
