@@ -55,6 +55,15 @@ DescribedDevice::DescribedDevice(const CameraDescription& description, ArvDevice
 {
 }
 
+void DescribedDevice::setInteger(int index, std::int64_t value)
+{
+    const int holder = m_states.valueNode(index);
+    if (holder != noNode && m_description.node(holder).kind == NodeKind::Boolean)
+        setInteger(holder, value);
+    else
+        m_values.setInteger(index, value);
+}
+
 void DescribedDevice::noteWritten(int index)
 {
     std::vector<int> changed = writtenThrough(m_description, index);

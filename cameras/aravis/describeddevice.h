@@ -36,6 +36,9 @@ public:
     /// Makes the node map's node known that stands for the node \a index of the description.
     void setNode(int index, ZetoNodeMap::Node& node) { m_nodes[static_cast<std::size_t>(index)] = &node; }
 
+    /// Writes to anything that counts. A boolean below is written itself, which the library leaves out.
+    void setInteger(int index, std::int64_t value);
+
     /// To be called after a write to the node \a index: every node that may look different now is
     /// invalidated.
     void noteWritten(int index);

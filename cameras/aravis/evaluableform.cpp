@@ -8,28 +8,27 @@
 namespace ZetoAravis {
 namespace {
 
-constexpr const char* helperPrefix = "ZetoBoolean_";
+constexpr const char* conditionPrefix = "ZetoIsOn_"; // 1 while the boolean is on, for formulas
+constexpr const char* storagePrefix = "ZetoStored_"; // what a boolean holds that states its value itself
 
-XmlElement makeElement(const std::string& name, const std::string& text)
+XmlElement makeElement(const std::string& tag, const std::string& text)
 {
-    return {name, {}, text, {}};
+    return {tag, {}, text, {}};
 }
 
-std::string textOr(const DescriptionNode& node, const char* tag, const char* fallback)
+XmlElement makeNode(const std::string& tag, const std::string& name, std::vector<XmlElement> properties)
 {
-    return node.has(tag) ? node.text(tag) : std::string(fallback);
+    return {tag, {{"Name", name}}, {}, std::move(properties)};
 }
 
-/// An integer that is 1 while the boolean is on.
-XmlElement makeHelper(const DescriptionNode& boolean)
+XmlElement makeCondition(const DescriptionNode& boolean)
 {
-    XmlElement variable = makeElement("pVariable", boolean.text("pValue"));
+    const std::string holder = boolean.has("pValue") ? boolean.text("pValue") : storagePrefix + boolean.name;
+    const std::string onValue = boolean.has("OnValue") ? boolean.text("OnValue") : "1";
+    XmlElement variable = makeElement("pVariable", holder);
     variable.attributes.emplace_back("Name", "VALUE");
-    XmlElement helper = makeElement("IntSwissKnife", {});
-    helper.attributes.emplace_back("Name", helperPrefix + boolean.name);
-    helper.children = {variable,
-                       makeElement("Formula", "(VALUE = " + textOr(boolean, "OnValue", "1") + ") ? 1 : 0")};
-    return helper;
+    return makeNode("IntSwissKnife", conditionPrefix + boolean.name,
+                    {variable, makeElement("Formula", "(VALUE = " + onValue + ") ? 1 : 0")});
 }
 
 class Rewriter
@@ -44,16 +43,19 @@ public:
     {
         if (element.name == "EnumEntry")
             dropConditions(element);
-        if (element.name == "pVariable")
+        else if (element.name == "Boolean")
+            moveValueOut(element);
+        else if (element.name == "pVariable")
             replaceBoolean(element);
         for (XmlElement& child : element.children)
             rewrite(child);
     }
 
-    void appendHelpersTo(XmlElement& root) const
+    void appendHelpersTo(XmlElement& root)
     {
-        for (const int boolean : m_booleans)
-            root.children.push_back(makeHelper(m_description.node(boolean)));
+        for (const int boolean : m_inFormulas)
+            m_helpers.push_back(makeCondition(m_description.node(boolean)));
+        root.children.insert(root.children.end(), m_helpers.begin(), m_helpers.end());
     }
 
 private:
@@ -64,20 +66,29 @@ private:
         children.erase(std::remove_if(children.begin(), children.end(), isCondition), children.end());
     }
 
+    void moveValueOut(XmlElement& boolean)
+    {
+        for (XmlElement& child : boolean.children) {
+            if (child.name != "Value")
+                continue;
+            const std::string storage = storagePrefix + boolean.attribute("Name");
+            m_helpers.push_back(makeNode("Integer", storage, {child}));
+            child = makeElement("pValue", storage);
+        }
+    }
+
     void replaceBoolean(XmlElement& variable)
     {
         const int target = m_description.find(variable.text);
-        if (target == CameraDescription::noNode)
+        if (target == CameraDescription::noNode || m_description.node(target).kind != NodeKind::Boolean)
             return;
-        const DescriptionNode& node = m_description.node(target);
-        if (node.kind != NodeKind::Boolean || !node.has("pValue"))
-            return;
-        m_booleans.insert(target);
-        variable.text = helperPrefix + node.name;
+        m_inFormulas.insert(target);
+        variable.text.insert(0, conditionPrefix);
     }
 
     const CameraDescription& m_description;
-    std::set<int> m_booleans;
+    std::set<int> m_inFormulas;
+    std::vector<XmlElement> m_helpers;
 };
 
 } // namespace

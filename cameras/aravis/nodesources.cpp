@@ -4,6 +4,10 @@
 #include "describeddevice.h"
 #include "literal.h"
 
+#include <algorithm>
+#include <sstream>
+#include <unordered_map>
+
 namespace ZetoAravis {
 namespace {
 
@@ -36,6 +40,18 @@ private:
     bool m_accessModeCacheable;
 };
 
+/// The values of a list like "1;2;4", ascending.
+template <class Parse>
+auto validSet(const DescriptionNode& node, Parse parse)
+{
+    std::vector<decltype(parse(""))> values;
+    std::istringstream texts(node.text("ValidValueSet"));
+    for (std::string text; std::getline(texts >> std::ws, text, ';');)
+        values.push_back(parse(text.substr(0, text.find_last_not_of(" \t\r\n") + 1)));
+    std::sort(values.begin(), values.end());
+    return values;
+}
+
 class DescribedInteger : public Described<ZetoNodeMap::IntegerSource>
 {
 public:
@@ -44,11 +60,12 @@ public:
     std::int64_t min() override { return states().min(index()); }
     std::int64_t max() override { return states().max(index()); }
     std::int64_t inc() override { return states().inc(index()); }
+    std::vector<std::int64_t> validValues() override { return validSet(stated(), integerLiteral); }
     std::int64_t read() override { return values().integer(index()); }
 
     void write(const std::int64_t& value) override
     {
-        values().setInteger(index(), value);
+        device().setInteger(index(), value);
         device().writeCopies(index(), value);
         device().noteWritten(index());
     }
@@ -62,6 +79,7 @@ public:
     double min() override { return states().realMin(index()); }
     double max() override { return states().realMax(index()); }
     std::optional<double> inc() override { return states().realInc(index()); }
+    std::vector<double> validValues() override { return validSet(stated(), realLiteral); }
     double read() override { return values().real(index()); }
 
     void write(const double& value) override
@@ -90,25 +108,30 @@ public:
 class DescribedEnumeration : public Described<ZetoNodeMap::EnumerationSource>
 {
 public:
-    using Described::Described;
+    DescribedEnumeration(DescribedDevice& device, int index)
+        : Described(device, index)
+    {
+        for (const int entry : device.description().entries(index))
+            m_entries.emplace(device.description().node(entry).value(), entry);
+    }
 
     GenApi::EAccessMode entryAccessMode(std::int64_t value) override
     {
-        for (const int entry : device().description().entries(index())) {
-            if (device().description().node(entry).value() == value)
-                return states().accessMode(entry);
-        }
-        return GenApi::NI;
+        const auto entry = m_entries.find(value);
+        return entry == m_entries.end() ? GenApi::NI : states().accessMode(entry->second);
     }
 
     std::int64_t read() override { return values().integer(index()); }
 
     void write(const std::int64_t& value) override
     {
-        values().setInteger(index(), value);
+        device().setInteger(index(), value);
         device().writeCopies(index(), value);
         device().noteWritten(index());
     }
+
+private:
+    std::unordered_map<std::int64_t, int> m_entries; // the first of each value
 };
 
 class DescribedBoolean : public Described<ZetoNodeMap::BooleanSource>
@@ -120,7 +143,7 @@ public:
 
     void write(const bool& value) override
     {
-        values().setInteger(index(), value ? 1 : 0);
+        device().setInteger(index(), value ? 1 : 0);
         device().writeCopies(index(), value ? number("OnValue", 1) : number("OffValue", 0));
         device().noteWritten(index());
     }
