@@ -5,10 +5,17 @@
 #include "editors/parameditor.h"
 #include "genparamtreemodel.h"
 
+#include <QAbstractItemView>
+#include <QApplication>
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QMetaProperty>
 #include <QPointer>
 #include <QPushButton>
+#include <QStyleOptionButton>
+
+#include <algorithm>
+#include <array>
 
 namespace {
 
@@ -26,6 +33,28 @@ QString refusalText(const QModelIndex& index)
     return reason.isEmpty() ? GenParamDelegate::tr("The camera did not take the value.") : reason;
 }
 
+/// Writes \a value; a refusal is told beside \a place, the cell's in \a viewport.
+void write(QAbstractItemModel& model, const QPersistentModelIndex& cell, const QVariant& value,
+           QWidget* viewport, const QRect& place)
+{
+    const QPointer<QWidget> aliveViewport(viewport); // a write can set off anything in the host
+    CellNote::hideOn(viewport);
+    if (!model.setData(cell, value, Qt::EditRole) && cell.isValid() && aliveViewport)
+        CellNote::showBeside(viewport, place, refusalText(cell));
+}
+
+bool isCommandToRun(const QModelIndex& index)
+{
+    return index.data(GenParamTreeModel::BusyRole).isValid() && (index.flags() & Qt::ItemIsEditable);
+}
+
+bool confirms(const QEvent& event)
+{
+    static const std::array<int, 4> keys{Qt::Key_Return, Qt::Key_Enter, Qt::Key_Tab, Qt::Key_Backtab};
+    return event.type() == QEvent::KeyPress &&
+           std::count(keys.begin(), keys.end(), static_cast<const QKeyEvent&>(event).key()) > 0;
+}
+
 } // namespace
 
 QWidget* GenParamDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& option,
@@ -41,6 +70,7 @@ QWidget* GenParamDelegate::createEditor(QWidget* parent, const QStyleOptionViewI
     if (auto* button = qobject_cast<QPushButton*>(editor); button && control.kind() == ControlData::Button)
         connect(button, &QPushButton::clicked, this, &GenParamDelegate::commitSender);
     editor->setAutoFillBackground(true); // the value is painted behind it
+    editor->setToolTip(index.data(Qt::ToolTipRole).toString());
     editor->setAccessibleName(index.siblingAtColumn(GenParamTreeModel::NameColumn).data().toString());
     return editor;
 }
@@ -68,16 +98,12 @@ void GenParamDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
     const QVariant value = takeEdit(*editor);
     if (!value.isValid())
         return;
-    CellNote::hideOn(editor->parentWidget());
     // What the write sets off may take the cell or the editor away.
     const QPersistentModelIndex cell(index);
     const QPointer<QWidget> aliveEditor(editor);
-    const bool isTaken = model->setData(index, value, Qt::EditRole);
-    if (!cell.isValid() || !aliveEditor)
-        return;
-    setEditorData(editor, cell);
-    if (!isTaken)
-        CellNote::showBeside(editor->parentWidget(), editor->geometry(), refusalText(cell));
+    write(*model, cell, value, editor->parentWidget(), editor->geometry());
+    if (cell.isValid() && aliveEditor)
+        setEditorData(editor, cell);
 }
 
 /// Covers the cell, and more where a narrow column would leave no room to type.
@@ -88,6 +114,55 @@ void GenParamDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionV
     QRect place = option.rect;
     place.setWidth(qMax(place.width(), qMin(editor->minimumSizeHint().width(), room)));
     editor->setGeometry(place);
+}
+
+void GenParamDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                             const QModelIndex& index) const
+{
+    if (!isCommandToRun(index)) {
+        QStyledItemDelegate::paint(painter, option, index);
+        return;
+    }
+    QStyleOptionViewItem cell = option;
+    initStyleOption(&cell, index);
+    QStyleOptionButton button;
+    button.rect = cell.rect;
+    button.palette = cell.palette;
+    button.direction = cell.direction;
+    button.fontMetrics = cell.fontMetrics;
+    button.text = cell.text;
+    button.state = cell.state & (QStyle::State_Enabled | QStyle::State_MouseOver | QStyle::State_Active);
+    button.state.setFlag(index.data(GenParamTreeModel::BusyRole).toBool() ? QStyle::State_Sunken
+                                                                          : QStyle::State_Raised);
+    const QStyle& style = cell.widget ? *cell.widget->style() : *QApplication::style();
+    style.drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, painter, cell.widget);
+    style.drawControl(QStyle::CE_PushButton, &button, painter, cell.widget);
+}
+
+bool GenParamDelegate::editorEvent(QEvent* event, QAbstractItemModel* model,
+                                   const QStyleOptionViewItem& option, const QModelIndex& index)
+{
+    const bool isClick = event->type() == QEvent::MouseButtonRelease;
+    const bool isDoubleClick = event->type() == QEvent::MouseButtonDblClick; // its release is a click too
+    if ((!isClick && !isDoubleClick) || static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton ||
+        !isCommandToRun(index))
+        return QStyledItemDelegate::editorEvent(event, model, option, index);
+    const auto* view = qobject_cast<const QAbstractItemView*>(option.widget);
+    if (view && isClick && !index.data(GenParamTreeModel::BusyRole).toBool())
+        write(*model, index, true, view->viewport(), option.rect);
+    return true;
+}
+
+/// Tells what is wrong with a text at the moment when it is confirmed, since it is not going to be committed.
+bool GenParamDelegate::eventFilter(QObject* editor, QEvent* event)
+{
+    const auto* paramEditor = confirms(*event) ? dynamic_cast<ParamEditor*>(editor) : nullptr;
+    const QString complaint = paramEditor ? paramEditor->complaint() : QString();
+    if (!complaint.isNull()) {
+        const auto* widget = static_cast<QWidget*>(editor);
+        CellNote::showBeside(widget->parentWidget(), widget->geometry(), complaint);
+    }
+    return QStyledItemDelegate::eventFilter(editor, event);
 }
 
 void GenParamDelegate::commitSender()

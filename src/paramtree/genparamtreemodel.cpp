@@ -169,7 +169,7 @@ QVariant GenParamTreeModel::data(const QModelIndex& index, int role) const
     case ErrorRole:
         return d_ptr->error(item);
     case BusyRole:
-        return d_ptr->isBusy(item);
+        return d_ptr->busyData(item);
     default:
         return QVariant();
     }

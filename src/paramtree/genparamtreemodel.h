@@ -50,7 +50,7 @@ public:
         ControlRole =
             Qt::UserRole + 1, ///< ControlData with an editor for a writable feature, new at each query
         ErrorRole,            ///< why the feature is in error; a null text when it is not
-        BusyRole,             ///< whether the camera still works on the command
+        BusyRole,             ///< of a command: whether the camera still works on it
     };
 
     /// A null \a nodeMap, or one without a category "Root", gives an empty tree.

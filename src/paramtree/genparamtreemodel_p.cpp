@@ -211,7 +211,7 @@ QString GenParamTreeModelPrivate::displayTextOf(GenParamTreeItem& item)
             m_errors.readFailed(*item.feature, *fault);
         }
     }
-    if (isBusy(item))
+    if (m_commands.isBusy(*item.feature))
         return GenParamTreeModel::tr("Executing...");
     return displayText(item.kind, item.reading, format);
 }
@@ -222,6 +222,12 @@ QVariant GenParamTreeModelPrivate::control(GenParamTreeItem& item)
     if (!GenApi::IsWritable(accessMode(item)))
         return QVariant();
     return QVariant::fromValue(prepareEditor(*item.feature, item.kind));
+}
+
+QVariant GenParamTreeModelPrivate::busyData(GenParamTreeItem& item)
+{
+    ensureRead(item);
+    return item.kind == GenParamKind::Command ? m_commands.isBusy(*item.feature) : QVariant();
 }
 
 GenApi::EAccessMode GenParamTreeModelPrivate::accessMode(const GenParamTreeItem& item) const

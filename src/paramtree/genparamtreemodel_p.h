@@ -39,7 +39,8 @@ public:
     /// An editor for the feature as ControlData; nothing when it cannot be written or has none of its own.
     QVariant control(GenParamTreeItem& item);
     QString error(const GenParamTreeItem& item) const { return m_errors.reason(*item.feature); }
-    bool isBusy(const GenParamTreeItem& item) const { return m_commands.isBusy(*item.feature); }
+    /// Nothing for what is no command.
+    QVariant busyData(GenParamTreeItem& item);
 
     /// \return whether the camera took \a value.
     bool write(GenParamTreeItem& item, const QVariant& value);

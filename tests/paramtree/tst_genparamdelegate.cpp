@@ -187,10 +187,11 @@ void TestGenParamDelegate::editsEveryType_data()
     QTest::addColumn<QString>("actions");
     QTest::addColumn<QString>("held");
     QTest::addColumn<int>("writes");
+    QTest::addColumn<QString>("note");
 
     const auto row = [](const char* feature, const char* opened, const char* actions, const char* held,
-                        int writes = 1) {
-        QTest::addRow("%s %s", feature, actions) << opened << actions << held << writes;
+                        int writes = 1, const char* note = "") {
+        QTest::addRow("%s %s", feature, actions) << opened << actions << held << writes << note;
     };
     row("Width", "#640px", "Return", "640", 0);
     row("Width", "#640px", "'800 Return", "800");
@@ -199,16 +200,18 @@ void TestGenParamDelegate::editsEveryType_data()
     row("Width", "#640px", "Up Up PgDown Return", "608");
     row("Width", "#640px", "Up Escape", "640", 0);
     row("Width", "#640px", "'9 Escape", "640", 0);
-    row("Width", "#640px", "'9 Return", "640", 0);
+    row("Width", "#640px", "'9 Return", "640", 0, "9 is not a number from 16 to 4096.");
     row("Whole", "#-1", "'-9223372036854775808 Return", "-9223372036854775808");
     row("Whole", "#-1", "'9223372036854775807 Return", "9223372036854775807");
     row("Hex", "#ff", "'FFfe Return", "0xFFFE");
     row("Hex", "#ff", "Up Return", "0x100");
     row("GevPersistentIPAddress", "\"192.168.0.1\"", "'10.0.0.255 Return", "167772415");
-    row("GevPersistentIPAddress", "\"192.168.0.1\"", "'10.0.0 Return Escape", "3232235521", 0);
+    row("GevPersistentIPAddress", "\"192.168.0.1\"", "'10.0.0 Return Escape", "3232235521", 0,
+        "\"10.0.0\" is not an IPv4 address.");
     row("GevPersistentIPAddress", "\"192.168.0.1\"", "'10.0.0.256 Return", "167772185");
     row("GevMACAddress", "\"00:11:22:33:44:aa\"", "'aa-bb-cc-dd-ee-01 Tab", "187723572702721");
-    row("GevMACAddress", "\"00:11:22:33:44:aa\"", "'00:11 Return Escape", "73588229290", 0);
+    row("GevMACAddress", "\"00:11:22:33:44:aa\"", "'00:11 Return Escape", "73588229290", 0,
+        "\"00:11\" is not a MAC address.");
     row("Binning", "2{1,2,4}", "Down Return", "4");
     row("Binning", "2{1,2,4}", "Return", "2", 0);
     row("Outside", "#77", "Return", "77", 0);
@@ -218,7 +221,7 @@ void TestGenParamDelegate::editsEveryType_data()
     row("Exposure", "#20000.00us", "'20000.1234 Return", "20000.1234");
     row("Exposure", "#20000.00us", "'2,5e3 Return", "2500");
     row("Exposure", "#20000.00us", "Up Tab", "21000.001");
-    row("Exposure", "#20000.00us", "'x1e Return", "20000.001", 0);
+    row("Exposure", "#20000.00us", "'x1e Tab", "20000.001", 0, "1e is not a number.");
     row("Stepped", "#1.0", "Up Up Up Return", "2");
     row("Wide", "#1.5e+300", "'-1.7976931348623157e308 Return", "-1.7976931348623157e+308");
     row("Rate", "25.0{12.5,25.0}", "Up Return", "12.5");
@@ -248,7 +251,7 @@ void TestGenParamDelegate::editsEveryType()
     QTEST(desk.held(feature), "held");
     QTEST(desk.writes.size(), "writes");
     QCOMPARE(desk.errors.join(QLatin1Char('\n')), QString());
-    QCOMPARE(desk.note(), QString());
+    QTEST(desk.note(), "note");
 }
 
 void TestGenParamDelegate::tellsRefusedWrites()
@@ -295,6 +298,17 @@ void TestGenParamDelegate::runsACommandOncePerClick()
     QCOMPARE(desk.cell("Count").data().toString(), QStringLiteral("8"));
     desk.view.setFocus(); // leaving the button must not run it again
     QCOMPARE(desk.writes.size(), 1);
+    const QPoint cell = desk.view.visualRect(desk.cell("Reset")).center();
+    QTest::mouseClick(desk.view.viewport(), Qt::LeftButton, {}, cell);
+    QCOMPARE(desk.writes.size(), 2);
+    QTest::mouseClick(desk.view.viewport(), Qt::RightButton, {}, cell);
+    QTest::mousePress(desk.view.viewport(), Qt::LeftButton, {}, cell);
+    QTest::mouseRelease(desk.view.viewport(), Qt::LeftButton, {}, {1, 1}); // dragged off the button
+    QCOMPARE(desk.writes.size(), 2);
+    QTest::mouseDClick(desk.view.viewport(), Qt::LeftButton, {}, cell);
+    QTest::mouseRelease(desk.view.viewport(), Qt::LeftButton, {}, cell);
+    QCOMPARE(desk.writes.size(), 3);
+    QCOMPARE(desk.editor(), nullptr);
 }
 
 void TestGenParamDelegate::showsABusyCommand()

@@ -51,6 +51,7 @@ void ChoiceEditor::wheelEvent(QWheelEvent* event)
 void ChoiceEditor::add(const VariantData& choice)
 {
     addItem(choice.text, QVariant::fromValue(choice));
+    setItemData(count() - 1, choice.editValue, Qt::ToolTipRole);
     auto* items = qobject_cast<QStandardItemModel*>(model());
     items->item(count() - 1)->setEnabled(choice.isAvailable);
 }

@@ -49,6 +49,11 @@ void FloatEditor::showValue(const QVariant& value)
         clear();
 }
 
+QString FloatEditor::complaintAbout(const QString& text) const
+{
+    return tr("%1 is not a number.").arg(text);
+}
+
 QAbstractSpinBox::StepEnabled FloatEditor::stepEnabled() const
 {
     StepEnabled enabled = StepNone;

@@ -17,6 +17,8 @@ struct FloatLimits
 /// that is typed goes to the camera as it stands, which then says what it thinks of it.
 class FloatEditor : public NumberEditor<QDoubleSpinBox>
 {
+    Q_OBJECT
+
 public:
     FloatEditor(const FloatLimits& limits, int displayPrecision, const QString& unit);
 
@@ -27,6 +29,7 @@ public:
 
 protected:
     void showValue(const QVariant& value) override;
+    QString complaintAbout(const QString& text) const override;
     StepEnabled stepEnabled() const override;
 
 private:

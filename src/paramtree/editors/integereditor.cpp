@@ -22,3 +22,9 @@ void IntegerEditor::showValue(const QVariant& value)
     if (!isNumber)
         clear();
 }
+
+QString IntegerEditor::complaintAbout(const QString& text) const
+{
+    return tr("%1 is not a number from %2 to %3.")
+        .arg(text, textFromValue(m_limits.minimum), textFromValue(m_limits.maximum));
+}

@@ -15,11 +15,14 @@ struct IntegerLimits
 /// Edits an integer within its limits and, above 1, on the grid of its increment.
 class IntegerEditor : public NumberEditor<QtZetoSpinBoxVal64>
 {
+    Q_OBJECT
+
 public:
     IntegerEditor(const IntegerLimits& limits, int base, const QString& unit);
 
 protected:
     void showValue(const QVariant& value) override;
+    QString complaintAbout(const QString& text) const override;
 
 private:
     const IntegerLimits m_limits;

@@ -20,3 +20,8 @@ QVariant IPv4Editor::toValue(const QString& text) const
 {
     return text;
 }
+
+QString IPv4Editor::complaintAbout(const QString& text) const
+{
+    return tr("\"%1\" is not an IPv4 address.").arg(text);
+}

@@ -21,3 +21,8 @@ QVariant MacEditor::toValue(const QString& text) const
     digits.remove(QLatin1Char(':')).remove(QLatin1Char('-'));
     return digits.toLongLong(nullptr, 16);
 }
+
+QString MacEditor::complaintAbout(const QString& text) const
+{
+    return tr("\"%1\" is not a MAC address.").arg(text);
+}

@@ -41,9 +41,18 @@ public:
         return hadEdit ? QVariant(this->value()) : QVariant();
     }
 
+    QString complaint() const final
+    {
+        const QString text = this->lineEdit()->text().chopped(this->suffix().length()).trimmed();
+        const bool isWrong = m_isTyping && !text.isEmpty() && !this->hasAcceptableInput();
+        return isWrong ? complaintAbout(text) : QString();
+    }
+
 protected:
     /// Shows \a value, or an empty field when it is no number: what cannot be read can still be written.
     virtual void showValue(const QVariant& value) = 0;
+
+    virtual QString complaintAbout(const QString& text) const = 0;
 
 private:
     bool m_isTyping = false; ///< the text may have no acceptable state yet

@@ -21,4 +21,7 @@ public:
     /// The value that the person has entered since it was last asked for, as the model's setData() takes it;
     /// invalid when there is none. Leaving an editor alone must not write to the camera.
     virtual QVariant takeEdit() = 0;
+
+    /// What is wrong with the text as it stands, to be told when the person confirms it; null for nothing.
+    virtual QString complaint() const { return QString(); }
 };

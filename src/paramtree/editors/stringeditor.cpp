@@ -40,3 +40,8 @@ QVariant StringEditor::toValue(const QString& text) const
 {
     return text;
 }
+
+QString StringEditor::complaintAbout(const QString& text) const
+{
+    return tr("\"%1\" does not fit into the feature.").arg(text);
+}

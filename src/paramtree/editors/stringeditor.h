@@ -5,6 +5,8 @@
 /// Edits a string. One that cannot be read is started from an empty text.
 class StringEditor : public TextEditor
 {
+    Q_OBJECT
+
 public:
     /// \a maximumBytes counts in UTF-8; 0 is no limit.
     StringEditor(qint64 maximumBytes, bool isReadable);
@@ -12,6 +14,7 @@ public:
 protected:
     QString toText(const QVariant& editValue) const override;
     QVariant toValue(const QString& text) const override;
+    QString complaintAbout(const QString& text) const override;
 
 private:
     const bool m_isReadable;

@@ -17,3 +17,8 @@ QVariant TextEditor::takeEdit()
     setModified(false);
     return hasEdit ? toValue(text()) : QVariant();
 }
+
+QString TextEditor::complaint() const
+{
+    return isModified() && !hasAcceptableInput() ? complaintAbout(text()) : QString();
+}

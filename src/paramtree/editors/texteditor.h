@@ -13,10 +13,12 @@ public:
     void fill(const QModelIndex& index) final;
     bool isBeingEdited() const final { return isModified(); }
     QVariant takeEdit() final;
+    QString complaint() const final;
 
 protected:
     /// The text for what the model's edit role gives, empty when that is no value.
     virtual QString toText(const QVariant& editValue) const = 0;
     /// \a text, which is acceptable, as the model's setData() takes it.
     virtual QVariant toValue(const QString& text) const = 0;
+    virtual QString complaintAbout(const QString& text) const = 0;
 };
