@@ -13,7 +13,7 @@ constexpr int lowest = std::numeric_limits<int>::min();
 constexpr int highest = std::numeric_limits<int>::max();
 constexpr double huge = std::numeric_limits<double>::max();
 
-/// A range with bounds and steps of every magnitude, both signs, the limits of int among them.
+/// A number of any magnitude and sign, now and then a limit of int.
 int anyInt(QRandomGenerator& random)
 {
     const int limit = random.bounded(20);
@@ -26,7 +26,7 @@ SliderScale anyScale(QRandomGenerator& random)
 {
     SliderScale scale;
     scale.mode = SliderScale::Mode(random.bounded(3));
-    const auto [minimum, maximum] = std::minmax(anyInt(random), anyInt(random));
+    const auto [minimum, maximum] = std::minmax({anyInt(random), anyInt(random)});
     scale.minimum = minimum;
     scale.maximum = maximum;
     scale.singleStep = anyInt(random);
@@ -144,8 +144,8 @@ void TestSliderScale::holdsForAnyRange()
                                     .arg(scale.logScale)
                                     .toLatin1();
         const auto inRange = [&scale](int value) { return value >= scale.minimum && value <= scale.maximum; };
-        const auto [low, high] = std::minmax(anyOf(random, scale.minimum, scale.maximum),
-                                             anyOf(random, scale.minimum, scale.maximum));
+        const auto [low, high] = std::minmax(
+            {anyOf(random, scale.minimum, scale.maximum), anyOf(random, scale.minimum, scale.maximum)});
 
         QVERIFY2(scale.valueAt(scale.positionOf(scale.minimum)) == scale.minimum, what);
         QVERIFY2(scale.valueAt(scale.positionOf(scale.maximum)) == scale.maximum, what);
@@ -213,7 +213,7 @@ void TestSliderScale::doubleGridHoldsForAnyRange()
     };
     for (int i = 0; i < 20000; ++i) {
         DoubleSliderGrid grid;
-        const auto [minimum, maximum] = std::minmax(anyDouble(), anyDouble());
+        const auto [minimum, maximum] = std::minmax({anyDouble(), anyDouble()});
         grid.minimum = minimum;
         grid.maximum = maximum;
         grid.singleStep = anyDouble();

@@ -7,6 +7,8 @@
 #include <QWheelEvent>
 #include <QtTest>
 
+#include <utility>
+
 namespace {
 
 QPoint handleAt(QSlider* slider, int position)
@@ -35,8 +37,8 @@ void turnWheel(QWidget* target, int notches)
 /// QTest::mouseMove() holds no button.
 void dragTo(QSlider* slider, const QPoint& position)
 {
-    QMouseEvent event(QEvent::MouseMove, position, slider->mapToGlobal(position), Qt::NoButton, Qt::LeftButton,
-                      Qt::NoModifier);
+    QMouseEvent event(QEvent::MouseMove, position, slider->mapToGlobal(position), Qt::NoButton,
+                      Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(slider, &event);
 }
 
@@ -82,9 +84,7 @@ void doOne(QWidget* target, const QString& word)
 
 QString SignalLog::take()
 {
-    const QString line = m_lines.join(QLatin1String(", "));
-    m_lines.clear();
-    return line;
+    return std::exchange(m_lines, {}).join(QLatin1String(", "));
 }
 
 void drive(QWidget* widget, const QString& script)
