@@ -4,16 +4,11 @@
 #include <QKeySequence>
 #include <QtTest>
 
-namespace {
-
-/// Also what no key of Qt Test stands for.
 void typeText(QWidget* widget, const QString& text)
 {
     for (const QChar character : text)
         QTest::sendKeyEvent(QTest::Click, widget, Qt::Key_unknown, QString(character), Qt::NoModifier);
 }
-
-} // namespace
 
 void pressKeys(const QString& actions)
 {

@@ -18,11 +18,6 @@ ControlData control(ControlData::Kind kind, Arguments&&... arguments)
     return ControlData(std::make_unique<Editor>(std::forward<Arguments>(arguments)...), kind);
 }
 
-ControlData choiceControl(const QVector<VariantData>& choices)
-{
-    return choices.isEmpty() ? ControlData() : control<ChoiceEditor>(ControlData::Choice, choices);
-}
-
 /// The values of a feature that takes only some, empty when limits and increment decide.
 template <typename Value, typename Node>
 QVector<VariantData> validValues(Node& node, GenParamKind kind, const GenParamFormat& format)
@@ -44,7 +39,7 @@ ControlData integerControl(GenApi::IInteger& node, GenParamKind kind, const GenP
 {
     const auto choices = validValues<qint64>(node, kind, format);
     if (!choices.isEmpty())
-        return choiceControl(choices);
+        return control<ChoiceEditor>(ControlData::Choice, choices);
     IntegerLimits limits;
     limits.minimum = genApiOr(limits.minimum, [&] { return qint64{node.GetMin()}; });
     limits.maximum = genApiOr(limits.maximum, [&] { return qint64{node.GetMax()}; });
@@ -57,7 +52,7 @@ ControlData floatControl(GenApi::IFloat& node, const GenParamFormat& format)
 {
     const auto choices = validValues<double>(node, GenParamKind::Float, format);
     if (!choices.isEmpty())
-        return choiceControl(choices);
+        return control<ChoiceEditor>(ControlData::Choice, choices);
     FloatLimits limits;
     limits.minimum = genApiOr(limits.minimum, [&] { return node.GetMin(); });
     limits.maximum = genApiOr(limits.maximum, [&] { return node.GetMax(); });
@@ -72,9 +67,12 @@ ControlData stringControl(GenApi::IString& node)
     return control<StringEditor>(ControlData::Text, maximumBytes, isReadable);
 }
 
-VariantData booleanChoice(bool value)
+ControlData booleanControl()
 {
-    return {value, value, valueText(GenParamKind::Boolean, value, GenParamFormat())};
+    QVector<VariantData> choices;
+    for (const bool value : {false, true})
+        choices.append({value, value, valueText(GenParamKind::Boolean, value, GenParamFormat())});
+    return control<ChoiceEditor>(ControlData::Choice, choices);
 }
 
 void appendEntry(QVector<VariantData>& choices, GenApi::INode& node)
@@ -96,7 +94,7 @@ ControlData enumerationControl(GenApi::IEnumeration& node)
     genApiFault([&] { node.GetEntries(entries); });
     for (GenApi::INode* entry : entries)
         genApiFault([&] { appendEntry(choices, *entry); });
-    return choiceControl(choices);
+    return control<ChoiceEditor>(ControlData::Choice, choices);
 }
 
 } // namespace
@@ -114,7 +112,7 @@ ControlData prepareEditor(GenApi::IValue& feature, GenParamKind kind)
         case GenParamKind::MacAddress:
             return control<MacEditor>(ControlData::Text);
         case GenParamKind::Boolean:
-            return choiceControl({booleanChoice(false), booleanChoice(true)});
+            return booleanControl();
         case GenParamKind::Command:
             return control<CommandEditor>(ControlData::Button);
         case GenParamKind::Float:
