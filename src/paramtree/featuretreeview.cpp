@@ -5,6 +5,7 @@
 #include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QMenu>
+#include <QPainter>
 
 FeatureTreeView::FeatureTreeView(QWidget* parent)
     : QTreeView(parent)
@@ -52,6 +53,14 @@ void FeatureTreeView::copyValue() const
 void FeatureTreeView::copyLine() const
 {
     QGuiApplication::clipboard()->setText(currentText(0) + QLatin1Char('\t') + currentText(1));
+}
+
+void FeatureTreeView::drawBranches(QPainter* painter, const QRect& rect, const QModelIndex& index) const
+{
+    const QVariant background = index.data(Qt::BackgroundRole);
+    if (background.isValid() && !selectionModel()->isSelected(index))
+        painter->fillRect(rect, background.value<QBrush>());
+    QTreeView::drawBranches(painter, rect, index);
 }
 
 void FeatureTreeView::contextMenuEvent(QContextMenuEvent* event)

@@ -23,6 +23,8 @@ public slots:
     void copyLine() const;
 
 protected:
+    /// Carries the background of a row over to its branches.
+    void drawBranches(QPainter* painter, const QRect& rect, const QModelIndex& index) const override;
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
