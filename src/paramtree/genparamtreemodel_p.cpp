@@ -106,18 +106,19 @@ void GenParamTreeModelPrivate::onNodeChanged(GenApi::INode* node)
     // The writer's call must not be ended by an exception of ours.
     genApiFault([&] {
         const bool isOwnThread = std::this_thread::get_id() == m_thread;
-        if (isOwnThread && !m_isCollecting && item != m_written)
+        if (isOwnThread && !m_isCollecting && item != m_written) {
             report(*item, true);
-        else if (isOwnThread)
-            item->isMarked = true;
-        else
-            mark(*item);
+            return;
+        }
+        item->isMarked = true;
+        m_hasMarks = true;
+        if (!isOwnThread)
+            postChanges();
     });
 }
 
-void GenParamTreeModelPrivate::mark(GenParamTreeItem& item)
+void GenParamTreeModelPrivate::postChanges()
 {
-    item.isMarked = true;
     if (m_isPosted.exchange(true))
         return;
     m_isPosted = !genApiFault([this] { QCoreApplication::postEvent(q_ptr, new QEvent(changeEventType())); });
@@ -137,6 +138,8 @@ void GenParamTreeModelPrivate::takePostedChanges()
 
 void GenParamTreeModelPrivate::reportMarked(bool compare)
 {
+    if (!m_hasMarks.exchange(false)) // before the search: a later change is found by the next one
+        return;
     std::vector<GenParamTreeItem*> marked;
     items.forEachFeature([&marked](GenParamTreeItem& item) {
         if (item.isMarked.load(std::memory_order_relaxed) && item.isMarked.exchange(false))

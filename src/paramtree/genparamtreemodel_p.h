@@ -61,7 +61,7 @@ private:
     void registerCallback(GenApi::IValue& feature);
     bool deregisterAll();
     void onNodeChanged(GenApi::INode* node);
-    void mark(GenParamTreeItem& item);
+    void postChanges();
 
     /// Reads the feature unless what is known of it is good enough to be shown.
     void ensureRead(GenParamTreeItem& item);
@@ -86,4 +86,5 @@ private:
 
     std::atomic<bool> m_isAttached{false};
     std::atomic<bool> m_isPosted{false};
+    std::atomic<bool> m_hasMarks{false}; // spares a refresh tick the search for none
 };

@@ -33,6 +33,15 @@ void GenParamTreeVisibilityFilterProxyModel::setFilterText(const QString& text)
     filterAgain();
 }
 
+int GenParamTreeVisibilityFilterProxyModel::rowCount(const QModelIndex& parent) const
+{
+    // The base class makes a mapping for every row that it is asked about, a quarter of a kilobyte each, and
+    // drops them all when the filter changes. Features have no rows below them.
+    if (parent.isValid() && sourceModel()->rowCount(mapToSource(parent)) == 0)
+        return 0;
+    return QSortFilterProxyModel::rowCount(parent);
+}
+
 void GenParamTreeVisibilityFilterProxyModel::filterAgain()
 {
     // invalidateFilter() would remove row by row, which walks every expanded category for each interval:

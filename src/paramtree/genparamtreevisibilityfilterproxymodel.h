@@ -32,6 +32,8 @@ public:
 
     int filterVisibility() const { return m_visibility; }
 
+    int rowCount(const QModelIndex& parent = QModelIndex()) const override;
+
 public slots:
     /// The highest GenApi visibility that is shown: 0 beginner, 1 expert, 2 guru.
     void setFilterVisibility(int _visibility);
