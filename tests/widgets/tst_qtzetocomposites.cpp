@@ -38,11 +38,25 @@ struct Window : QWidget
     }
 };
 
-template <typename Value, typename Composite>
-void watch(SignalLog& log, const Composite& composite)
+/// Plays the row's script to a composite that \a setUp prepared. \return its signals and at last what spin
+/// box and slider hold and where the handle stands.
+template <typename Composite, typename Value, typename SetUp>
+QString played(SetUp setUp)
 {
+    QFETCH(const QString, script);
+    Window<Composite> window;
+    Composite& composite = window.composite;
+    setUp(composite);
+    if (!showActive(&window))
+        return QStringLiteral("no active window");
+    SignalLog log;
     log.watch(&composite, qOverload<Value>(&Composite::valueChanged), "value");
-    log.watch(&composite, &Composite::rangeChanged, "range");
+    drive(&composite, script);
+    log.add(QStringLiteral("%1=%2@%3")
+                .arg(composite.value())
+                .arg(composite.slider()->value())
+                .arg(composite.slider()->slider()->value()));
+    return log.take();
 }
 
 QString ownMethods(const QMetaObject& meta)
@@ -124,136 +138,96 @@ void TestQtZetoComposites::declares()
 
 void TestQtZetoComposites::sliderSpinBox_data()
 {
-    QTest::addColumn<QString>("script");
-    QTest::addColumn<QString>(
-        "expected"); // of a logarithmic composite at 90 in [0, 990]; at last what it holds
-
-    QTest::newRow("slider keys") << "@slider Right Right Left"
-                                 << "value 92, value 95, value 92, 92=92@201";
-    QTest::newRow("spin box keys") << "@spinbox Up Up"
-                                   << "value 91, value 92, 92=92@201";
-    QTest::newRow("typed value beside the scale") << "@spinbox Ctrl+A type:985"
-                                                  << "value 9, value 98, value 985, 985=985@300";
-    QTest::newRow("Enter is no change") << "@spinbox Return Enter"
-                                        << "90=90@200";
-    QTest::newRow("wheel") << "@slider wheel+ @spinbox wheel-"
-                           << "value 97, value 96, 96=96@203";
-    QTest::newRow("a drag tells its end") << "@slider press drag:250 drag:280 release"
-                                          << "value 621, 621=621@280";
-    QTest::newRow("a drag that goes on tells nothing") << "@slider press drag:250 drag:280"
-                                                       << "90=621@280";
-    QTest::newRow("a drag back tells the value again") << "@slider press drag:280 drag:200 release"
-                                                       << "value 90, 90=90@200";
-    QTest::newRow("a press alone tells nothing") << "@slider press release"
-                                                 << "90=90@200";
-    QTest::newRow("keys after a drag") << "@slider press drag:280 release Right"
-                                       << "value 621, value 636, 636=636@281";
+    // 90 in [0, 990], logarithmic; at last what spin box and slider hold and the position
+    addScripts({
+        {"slider keys", "", "@slider Right Right Left", "value 92, value 95, value 92, 92=92@201"},
+        {"spin box keys", "", "@spinbox Up Up", "value 91, value 92, 92=92@201"},
+        {"typed value beside the scale", "", "@spinbox Ctrl+A type:985",
+         "value 9, value 98, value 985, 985=985@300"},
+        {"Enter is no change", "", "@spinbox Return Enter", "90=90@200"},
+        {"wheel", "", "@slider wheel+ @spinbox wheel-", "value 97, value 96, 96=96@203"},
+        {"a drag tells its end", "", "@slider press drag:250 drag:280 release", "value 621, 621=621@280"},
+        {"a drag that goes on tells nothing", "", "@slider press drag:250 drag:280", "90=621@280"},
+        {"a drag back tells the value again", "", "@slider press drag:280 drag:200 release",
+         "value 90, 90=90@200"},
+        {"a press alone tells nothing", "", "@slider press release", "90=90@200"},
+        {"keys after a drag", "", "@slider press drag:280 release Right",
+         "value 621, value 636, 636=636@281"},
+    });
 }
 
 void TestQtZetoComposites::sliderSpinBox()
 {
-    QFETCH(const QString, script);
-    Window<QtZetoSliderSpinBox> window;
-    QtZetoSliderSpinBox& composite = window.composite;
-    composite.setRange(0, 990);
-    composite.slider()->setScaleMode(QtZetoSlider::Logarithmic);
-    composite.setValue(90);
-    QVERIFY(showActive(&window));
-    SignalLog log;
-    watch<int>(log, composite);
-    drive(&composite, script);
-    log.add(QStringLiteral("%1=%2@%3")
-                .arg(composite.value())
-                .arg(composite.slider()->value())
-                .arg(composite.slider()->slider()->value()));
-    QTEST(log.take(), "expected");
+    const auto setUp = [](QtZetoSliderSpinBox& composite) {
+        composite.setRange(0, 990);
+        composite.slider()->setScaleMode(QtZetoSlider::Logarithmic);
+        composite.setValue(90);
+    };
+    QTEST((played<QtZetoSliderSpinBox, int>(setUp)), "expected");
 }
 
 void TestQtZetoComposites::gainSlider_data()
 {
-    QTest::addColumn<QString>("script");
-    QTest::addColumn<QString>(
-        "expected"); // of a composite at 1.5 in [0, 4.2] with step 0.1; at last what it holds
-
-    QTest::newRow("slider keys") << "@slider Right Left"
-                                 << "value 1.6, value 1.5, 1.5=1.5";
-    QTest::newRow("typed value beside the steps")
-        << "@spinbox Ctrl+A type:2.345"
-        << "value 2, value 2.3, value 2.34, value 2.345, 2.345=2.345";
-    QTest::newRow("a drag tells all the while") << "@slider press drag:20 drag:30 release"
-                                                << "value 2, value 3, 3=3";
-    QTest::newRow("the end") << "@slider End End"
-                             << "value 4.2, 4.2=4.2";
-    QTest::newRow("rounding makes no second change") << "@slider Home Right Right Right"
-                                                     << "value 0, value 0.1, value 0.2, value 0.3, 0.3=0.3";
+    // 1.5 in [0, 4.2], step 0.1; at last what spin box and slider hold and the position
+    addScripts({
+        {"slider keys", "", "@slider Right Left", "value 1.6, value 1.5, 1.5=1.5@15"},
+        {"typed value beside the steps", "", "@spinbox Ctrl+A type:2.345",
+         "value 2, value 2.3, value 2.34, value 2.345, 2.345=2.345@23"},
+        {"a drag tells all the while", "", "@slider press drag:20 drag:30 release",
+         "value 2, value 3, 3=3@30"},
+        {"the end", "", "@slider End End", "value 4.2, 4.2=4.2@42"},
+        {"rounding makes no second change", "", "@slider Home Right Right Right",
+         "value 0, value 0.1, value 0.2, value 0.3, 0.3=0.3@3"},
+    });
 }
 
 void TestQtZetoComposites::gainSlider()
 {
-    QFETCH(const QString, script);
-    Window<QtZetoGainSlider> window;
-    QtZetoGainSlider& composite = window.composite;
-    SignalLog log;
-    watch<double>(log, composite);
-    composite.setSingleStep(0.1);
-    composite.setRange(0.0, 4.2);
-    composite.setRange(0.0, 4.2);
-    composite.setValue(1.5);
-    QCOMPARE(log.take(), QStringLiteral("range 0 4.2, value 1.5"));
-    QVERIFY(showActive(&window));
-    drive(&composite, script);
-    log.add(QStringLiteral("%1=%2").arg(composite.value()).arg(composite.slider()->value()));
-    QTEST(log.take(), "expected");
+    const auto setUp = [](QtZetoGainSlider& composite) {
+        SignalLog log;
+        log.watch(&composite, &QtZetoGainSlider::rangeChanged, "range");
+        composite.setSingleStep(0.1);
+        composite.setRange(0.0, 4.2);
+        composite.setRange(0.0, 4.2);
+        composite.setValue(1.5);
+        QCOMPARE(log.take(), QStringLiteral("range 0 4.2"));
+        composite.disconnect();
+    };
+    QTEST((played<QtZetoGainSlider, double>(setUp)), "expected");
 }
 
 void TestQtZetoComposites::spinBox_data()
 {
-    QTest::addColumn<bool>("onRelease"); // as a camera feature binds it: told on release, typed text by Enter
-    QTest::addColumn<QString>("script");
-    QTest::addColumn<QString>("expected"); // of a composite at 50 in [0, 100]; at last what it holds
-
-    QTest::newRow("spin box keys") << false << "@spinbox Up Up Down"
-                                   << "value 51, value 52, value 51, 51=51";
-    QTest::newRow("typing") << false << "@spinbox Ctrl+A type:78"
-                            << "value 7, value 78, 78=78";
-    QTest::newRow("popup keys") << false << "@button Space @slider Right End"
-                                << "value 51, value 100, 100=100";
-    QTest::newRow("popup drag") << false << "@button Space @slider press drag:70 drag:30 release"
-                                << "value 70, value 30, 30=30";
-    QTest::newRow("Escape keeps what was picked") << false << "@button Space @slider Right Escape"
-                                                  << "value 51, 51=51";
-    QTest::newRow("popup drag, told once") << true << "@button Space @slider press drag:70 drag:30 release"
-                                           << "value 30, 30=30";
-    QTest::newRow("Escape while dragging loses nothing")
-        << true << "@button Space @slider press drag:70 Escape"
-        << "value 70, 70=70";
-    QTest::newRow("typing, told by Enter") << true << "@spinbox Ctrl+A type:78 Return Return"
-                                           << "value 78, 78=78";
-    QTest::newRow("typing, lost with the focus") << true << "@spinbox Ctrl+A type:78 Tab"
-                                                 << "50=50";
-    QTest::newRow("opening and closing") << true << "@button Space @slider Escape"
-                                         << "50=50";
+    // 50 in [0, 100]; camera: as a feature is bound, told on release and by Enter; at last what both hold and
+    // the position
+    addScripts({
+        {"spin box keys", "", "@spinbox Up Up Down", "value 51, value 52, value 51, 51=51@51"},
+        {"typing", "", "@spinbox Ctrl+A type:78", "value 7, value 78, 78=78@78"},
+        {"popup keys", "", "@button Space @slider Right End", "value 51, value 100, 100=100@100"},
+        {"popup drag", "", "@button Space @slider press drag:70 drag:30 release",
+         "value 70, value 30, 30=30@30"},
+        {"Escape keeps what was picked", "", "@button Space @slider Right Escape", "value 51, 51=51@51"},
+        {"popup drag, told once", "camera", "@button Space @slider press drag:70 drag:30 release",
+         "value 30, 30=30@30"},
+        {"Escape while dragging loses nothing", "camera", "@button Space @slider press drag:70 Escape",
+         "value 70, 70=70@70"},
+        {"typing, told by Enter", "camera", "@spinbox Ctrl+A type:78 Return Return", "value 78, 78=78@78"},
+        {"typing, lost with the focus", "camera", "@spinbox Ctrl+A type:78 Tab", "50=50@50"},
+        {"opening and closing", "camera", "@button Space @slider Escape", "50=50@50"},
+    });
 }
 
 void TestQtZetoComposites::spinBox()
 {
-    QFETCH(const bool, onRelease);
-    QFETCH(const QString, script);
-    Window<QtZetoSpinBox> window;
-    QtZetoSpinBox& composite = window.composite;
-    composite.setOrientation(Qt::Horizontal);
-    composite.setValue(50);
-    if (onRelease) {
-        composite.setKeyboardTracking(false);
-        composite.setCommitsOnRelease(true);
-    }
-    QVERIFY(showActive(&window));
-    composite.slider()->setMinimumWidth(400); // a pixel for each value
-    SignalLog log;
-    watch<int>(log, composite);
-    drive(&composite, script);
-    log.add(QStringLiteral("%1=%2").arg(composite.value()).arg(composite.slider()->value()));
-    QTEST(log.take(), "expected");
+    QFETCH(const QString, setup);
+    const auto setUp = [&setup](QtZetoSpinBox& composite) {
+        composite.setOrientation(Qt::Horizontal);
+        composite.slider()->setMinimumWidth(400); // a pixel for each value
+        composite.setValue(50);
+        composite.setKeyboardTracking(setup.isEmpty());
+        composite.setCommitsOnRelease(!setup.isEmpty());
+    };
+    QTEST((played<QtZetoSpinBox, int>(setUp)), "expected");
 }
 
 void TestQtZetoComposites::popupOpensAndCloses()
@@ -369,7 +343,7 @@ void TestQtZetoComposites::releaseTellsTheTextToo()
     SignalLog log;
     log.watch(composite.spinBox(), qOverload<int>(&QSpinBox::valueChanged), "number");
     const QSignalSpy texts(composite.spinBox(), SIGNAL(valueChanged(QString)));
-    watch<int>(log, composite);
+    log.watch(&composite, &QtZetoSliderSpinBox::valueChanged, "value");
     drive(&composite, QStringLiteral("@slider press drag:70 drag:53 release"));
     QCOMPARE(log.take(), QStringLiteral("number 50, value 50"));
     QCOMPARE(texts.value(0).value(0).toString(), QStringLiteral("50"));

@@ -8,6 +8,21 @@
 #include <QSlider>
 #include <QtTest>
 
+namespace {
+
+/// \a words: mode, maximum, step, snap and value.
+void setUp(QtZetoSlider& slider, const QString& words)
+{
+    const QStringList list = words.split(QLatin1Char(' '));
+    slider.setScaleMode(list[0].toInt());
+    slider.setRange(0, list[1].toInt());
+    slider.setSingleStep(list[2].toInt());
+    slider.setSnapToStep(list[3] == QLatin1String("1"));
+    slider.setValue(list[4].toInt());
+}
+
+} // namespace
+
 class TestQtZetoSliders : public QObject
 {
     Q_OBJECT
@@ -51,100 +66,62 @@ void TestQtZetoSliders::tellsEachChangeOnce()
 
 void TestQtZetoSliders::keepsWhatWasSet_data()
 {
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<bool>("snap");
-    QTest::addColumn<int>("set");
-    QTest::addColumn<int>("value");
-    QTest::addColumn<int>("position");
-
-    QTest::newRow("linear") << 0 << false << 37 << 37 << 37;
-    QTest::newRow("beyond the range") << 0 << false << 5000 << 2000 << 2000;
-    QTest::newRow("off the grid") << 0 << true << 37 << 37 << 40;
-    QTest::newRow("between logarithmic positions") << 1 << false << 1000 << 1000 << 300;
-    QTest::newRow("logarithmic, just below the end") << 1 << false << 1999 << 1999 << 330;
-    QTest::newRow("between roots") << 2 << false << 1000 << 1000 << 32;
+    // setup as of setUp(); script: what is set; expected: the value and its position
+    addScripts({
+        {"linear", "0 2000 10 0 0", "37", "37@37"},
+        {"beyond the range", "0 2000 10 0 0", "5000", "2000@2000"},
+        {"off the grid", "0 2000 10 1 0", "37", "37@40"},
+        {"between logarithmic positions", "1 2000 10 0 0", "1000", "1000@300"},
+        {"logarithmic, just below the end", "1 2000 10 0 0", "1999", "1999@330"},
+        {"between roots", "2 2000 10 0 0", "1000", "1000@32"},
+    });
 }
 
 void TestQtZetoSliders::keepsWhatWasSet()
 {
-    QFETCH(const int, mode);
-    QFETCH(const bool, snap);
-    QFETCH(const int, set);
+    QFETCH(const QString, setup);
+    QFETCH(const QString, script);
     QtZetoSlider slider;
-    slider.setRange(0, 2000);
-    slider.setSingleStep(10);
-    slider.setScaleMode(mode);
-    slider.setSnapToStep(snap);
+    setUp(slider, setup);
     SignalLog log;
     log.watch(&slider, &QtZetoSlider::valueChanged, "value");
-    slider.setValue(set);
-    QTEST(slider.value(), "value");
-    QTEST(slider.slider()->value(), "position");
+    slider.setValue(script.toInt());
+    QTEST(QStringLiteral("%1@%2").arg(slider.value()).arg(slider.slider()->value()), "expected");
     QCOMPARE(log.take(), QStringLiteral("value %1").arg(slider.value()));
 }
 
 void TestQtZetoSliders::followsTheUser_data()
 {
-    QTest::addColumn<QString>("setup"); // mode, maximum, step, snap, value
-    QTest::addColumn<QString>("script");
-    QTest::addColumn<QString>("expected");
-
-    QTest::newRow("linear keys") << "0 100 5 0 50"
-                                 << "Right Up Left Down Home End End"
-                                 << "value 55, value 60, value 55, value 50, value 0, value 100";
-    QTest::newRow("pages") << "0 1000 5 0 500"
-                           << "PgUp PgDown"
-                           << "value 600, value 500";
-    QTest::newRow("logarithmic keys move at the dense end") << "1 990 1 0 0"
-                                                            << "Right Right Up Left"
-                                                            << "value 1, value 2, value 3, value 2";
-    QTest::newRow("logarithmic keys reach the end") << "1 1000 1 0 995"
-                                                    << "Right Right Right"
-                                                    << "value 1000";
-    QTest::newRow("logarithmic End from beside it") << "1 990 1 0 989"
-                                                    << "End"
-                                                    << "value 990";
-    QTest::newRow("root keys keep the grid") << "2 100 20 1 0"
-                                             << "Right Right Left"
-                                             << "value 20, value 40, value 20";
-    QTest::newRow("a key leaves an end off the grid") << "0 96 10 1 94"
-                                                      << "Right Left"
-                                                      << "value 96, value 90";
-    QTest::newRow("wheel") << "0 100 1 0 50"
-                           << "wheel+ wheel-"
-                           << "value 53, value 50";
-    QTest::newRow("logarithmic wheel") << "1 990 1 0 0"
-                                       << "wheel+ wheel+"
-                                       << "value 1";
-    QTest::newRow("step 0") << "0 100 0 0 50"
-                            << "Right"
-                            << "value 51";
-    QTest::newRow("negative step") << "1 990 -7 1 0"
-                                   << "Right"
-                                   << "value 1";
-    QTest::newRow("drag") << "0 100 1 0 50"
-                          << "press drag:60 drag:20 release"
-                          << "pressed, moved 60, value 60, moved 20, value 20, released";
-    QTest::newRow("drag over a grid") << "0 100 25 1 50"
-                                      << "press drag:60 drag:64 drag:70 release"
-                                      << "pressed, moved 60, moved 64, value 75, moved 70, released";
-    QTest::newRow("whole range") << "0 2147483647 2147483647 0 1"
-                                 << "Right Left Left"
-                                 << "value 2147483647, value 0";
+    // setup as of setUp()
+    addScripts({
+        {"linear keys", "0 100 5 0 50", "Right Up Left Down Home End End",
+         "value 55, value 60, value 55, value 50, value 0, value 100"},
+        {"pages", "0 1000 5 0 500", "PgUp PgDown", "value 600, value 500"},
+        {"logarithmic keys move at the dense end", "1 990 1 0 0", "Right Right Up Left",
+         "value 1, value 2, value 3, value 2"},
+        {"logarithmic keys reach the end", "1 1000 1 0 995", "Right Right Right", "value 1000"},
+        {"logarithmic End from beside it", "1 990 1 0 989", "End", "value 990"},
+        {"root keys keep the grid", "2 100 20 1 0", "Right Right Left", "value 20, value 40, value 20"},
+        {"a key leaves an end off the grid", "0 96 10 1 94", "Right Left", "value 96, value 90"},
+        {"wheel", "0 100 1 0 50", "wheel+ wheel-", "value 53, value 50"},
+        {"logarithmic wheel", "1 990 1 0 0", "wheel+ wheel+", "value 1"},
+        {"step 0", "0 100 0 0 50", "Right", "value 51"},
+        {"negative step", "1 990 -7 1 0", "Right", "value 1"},
+        {"drag", "0 100 1 0 50", "press drag:60 drag:20 release",
+         "pressed, moved 60, value 60, moved 20, value 20, released"},
+        {"drag over a grid", "0 100 25 1 50", "press drag:60 drag:64 drag:70 release",
+         "pressed, moved 60, moved 64, value 75, moved 70, released"},
+        {"whole range", "0 2147483647 2147483647 0 1", "Right Left Left", "value 2147483647, value 0"},
+    });
 }
 
 void TestQtZetoSliders::followsTheUser()
 {
     QFETCH(const QString, setup);
     QFETCH(const QString, script);
-    const QStringList words = setup.split(QLatin1Char(' '));
     QtZetoSlider slider(Qt::Horizontal);
     slider.resize(600, 50);
-    slider.setScaleMode(words[0].toInt());
-    slider.setRange(0, words[1].toInt());
-    slider.setSingleStep(words[2].toInt());
-    slider.setSnapToStep(words[3] == QLatin1String("1"));
-    slider.setValue(words[4].toInt());
+    setUp(slider, setup);
     QVERIFY(showActive(&slider));
 
     SignalLog log;
@@ -158,33 +135,27 @@ void TestQtZetoSliders::followsTheUser()
 
 void TestQtZetoSliders::doublesFollowTheUser_data()
 {
-    QTest::addColumn<double>("value");
-    QTest::addColumn<QString>("script");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("keys") << 1.0 << "Right Right Left"
-                          << "value 1.5, value 2, value 1.5";
-    QTest::newRow("from between two steps") << 1.1 << "Right"
-                                            << "value 1.5";
-    QTest::newRow("the end beside the last step") << 4.0 << "Right Right Left"
-                                                  << "value 4.2, value 4";
-    QTest::newRow("the end from beside it") << 4.15 << "Right"
-                                            << "value 4.2";
-    QTest::newRow("the start from beside it") << 0.1 << "Left Left"
-                                              << "value 0";
-    QTest::newRow("drag") << 1.0 << "press drag:4 drag:4 release"
-                          << "value 2";
+    // setup: value in [0, 4.2] with step 0.5
+    addScripts({
+        {"keys", "1.0", "Right Right Left", "value 1.5, value 2, value 1.5"},
+        {"from between two steps", "1.1", "Right", "value 1.5"},
+        {"the end beside the last step", "4.0", "Right Right Left", "value 4.2, value 4"},
+        {"the end from beside it", "4.15", "Right", "value 4.2"},
+        {"the start from beside it", "0.1", "Left Left", "value 0"},
+        {"drag", "1.0", "press drag:4 drag:4 release", "value 2"},
+    });
 }
 
 void TestQtZetoSliders::doublesFollowTheUser()
 {
-    QFETCH(const double, value);
+    QFETCH(const QString, setup);
     QFETCH(const QString, script);
     QtZetoDoubleSlider slider(Qt::Horizontal);
     slider.resize(600, 50);
     slider.setSingleStep(0.5);
     slider.setRange(0.0, 4.2);
     slider.setRange(-std::numeric_limits<double>::infinity(), qQNaN());
-    slider.setValue(value);
+    slider.setValue(setup.toDouble());
     slider.setValue(qQNaN());
     QVERIFY(showActive(&slider));
 

@@ -22,74 +22,40 @@ private slots:
 
 void TestQtZetoSpinBoxVal::integers_data()
 {
-    QTest::addColumn<QString>("flags"); // s: snapToStep, e: Enter only, t: without keyboard tracking
-    QTest::addColumn<QString>("script");
-    QTest::addColumn<QString>("expected"); // of a box at 10 in [0, 99] with step 4; at last the text
-
-    QTest::newRow("steps") << ""
-                           << "Up Up Down"
-                           << "value 14, value 18, value 14, text 14";
-    QTest::newRow("steps on the grid") << "s"
-                                       << "Up Up Down"
-                                       << "value 16, value 20, value 16, text 16";
-    QTest::newRow("steps to the ends") << "s"
-                                       << "PgUp PgUp PgUp PgDown"
-                                       << "value 52, value 92, value 99, value 60, text 60";
-    QTest::newRow("wheel") << "s"
-                           << "wheel+"
-                           << "value 16, text 16";
-    QTest::newRow("typing") << ""
-                            << "type:42"
-                            << "value 4, value 42, text 42";
-    QTest::newRow("typing is not snapped") << "s"
-                                           << "type:42"
-                                           << "value 4, value 42, text 42";
-    QTest::newRow("typing, no number yet") << ""
-                                           << "type:- Tab"
-                                           << "text 10";
-    QTest::newRow("typing waits for Enter") << "e"
-                                            << "type:42 Return"
-                                            << "value 42, text 42";
-    QTest::newRow("Enter on the keypad snaps") << "es"
-                                               << "type:42 Enter"
-                                               << "value 44, text 44";
-    QTest::newRow("Enter on the same value") << "e"
-                                             << "type:10 Return"
-                                             << "text 10";
-    QTest::newRow("Enter without a number") << "e"
-                                            << "Backspace Return"
-                                            << "text 10";
-    QTest::newRow("leaving the field gives up the text") << "e"
-                                                         << "type:42 Tab"
-                                                         << "text 10";
-    QTest::newRow("also a repairable one") << "e"
-                                           << "type:4,2 Tab"
-                                           << "text 10";
-    QTest::newRow("a step gives up the text") << "e"
-                                              << "type:42 Up"
-                                              << "value 14, text 14";
-    QTest::newRow("a step without effect, too") << "e"
-                                                << "End type:42 Down PgDown PgDown"
-                                                << "value 6, value 0, text 0";
-    QTest::newRow("a step counts from text not told yet") << "t"
-                                                          << "type:42 Up"
-                                                          << "value 46, text 46";
-    QTest::newRow("out of range cannot be typed") << "e"
-                                                  << "type:999 Return"
-                                                  << "value 99, text 99";
+    // 10 in [0, 99], step 4. s: snaps, e: Enter only, t: no keyboard tracking. At last the text
+    addScripts({
+        {"steps", "", "Up Up Down", "value 14, value 18, value 14, text 14"},
+        {"steps on the grid", "s", "Up Up Down", "value 16, value 20, value 16, text 16"},
+        {"steps to the ends", "s", "PgUp PgUp PgUp PgDown",
+         "value 52, value 92, value 99, value 60, text 60"},
+        {"wheel", "s", "wheel+", "value 16, text 16"},
+        {"typing", "", "type:42", "value 4, value 42, text 42"},
+        {"typing is not snapped", "s", "type:42", "value 4, value 42, text 42"},
+        {"typing, no number yet", "", "type:- Tab", "text 10"},
+        {"typing waits for Enter", "e", "type:42 Return", "value 42, text 42"},
+        {"Enter on the keypad snaps", "es", "type:42 Enter", "value 44, text 44"},
+        {"Enter on the same value", "e", "type:10 Return", "text 10"},
+        {"Enter without a number", "e", "Backspace Return", "text 10"},
+        {"leaving the field gives up the text", "e", "type:42 Tab", "text 10"},
+        {"also a repairable one", "e", "type:4,2 Tab", "text 10"},
+        {"a step gives up the text", "e", "type:42 Up", "value 14, text 14"},
+        {"a step without effect, too", "e", "End type:42 Down PgDown PgDown", "value 6, value 0, text 0"},
+        {"a step counts from text not told yet", "t", "type:42 Up", "value 46, text 46"},
+        {"out of range cannot be typed", "e", "type:999 Return", "value 99, text 99"},
+    });
 }
 
 void TestQtZetoSpinBoxVal::integers()
 {
-    QFETCH(const QString, flags);
+    QFETCH(const QString, setup);
     QFETCH(const QString, script);
     QWidget window;
     QtZetoSpinBoxVal box(&window);
     box.setSingleStep(4);
     box.setValue(10);
-    box.setSnapToStep(flags.contains(QLatin1Char('s')));
-    box.setAcceptWhileTyping(!flags.contains(QLatin1Char('e')));
-    box.setKeyboardTracking(!flags.contains(QLatin1Char('t')));
+    box.setSnapToStep(setup.contains(QLatin1Char('s')));
+    box.setAcceptWhileTyping(!setup.contains(QLatin1Char('e')));
+    box.setKeyboardTracking(!setup.contains(QLatin1Char('t')));
     QWidget other(&window);
     other.setFocusPolicy(Qt::StrongFocus);
     QVERIFY(showActive(&window));
@@ -105,37 +71,27 @@ void TestQtZetoSpinBoxVal::integers()
 
 void TestQtZetoSpinBoxVal::doubles_data()
 {
-    QTest::addColumn<QLocale>("locale");
-    QTest::addColumn<bool>("enterOnly");
-    QTest::addColumn<QString>("script");
-    QTest::addColumn<QString>("expected");
-
-    const QLocale german(QLocale::German);
-    QTest::newRow("steps on the grid") << QLocale::c() << false << "Up Up"
-                                       << "value 1.25, value 1.5, text 1.50";
-    QTest::newRow("typing") << QLocale::c() << false << "type:2.5"
-                            << "value 2, value 2.5, text 2.5";
-    QTest::newRow("Enter snaps") << QLocale::c() << true << "type:2.4 Return"
-                                 << "value 2.5, text 2.50";
-    QTest::newRow("decimal comma") << german << false << "type:2,5"
-                                   << "value 2, value 2.5, text 2,5";
-    QTest::newRow("decimal comma and Enter") << german << true << "type:2,4 Return"
-                                             << "value 2.5, text 2,50";
-    QTest::newRow("Enter without a number") << german << true << "type:, Return"
-                                            << "text 1,10";
+    // 1.1 with a grid of 0.25. g: German, e: Enter only. At last the text
+    addScripts({
+        {"steps on the grid", "", "Up Up", "value 1.25, value 1.5, text 1.50"},
+        {"typing", "", "type:2.5", "value 2, value 2.5, text 2.5"},
+        {"Enter snaps", "e", "type:2.4 Return", "value 2.5, text 2.50"},
+        {"decimal comma", "g", "type:2,5", "value 2, value 2.5, text 2,5"},
+        {"decimal comma and Enter", "ge", "type:2,4 Return", "value 2.5, text 2,50"},
+        {"Enter without a number", "ge", "type:, Return", "text 1,10"},
+    });
 }
 
 void TestQtZetoSpinBoxVal::doubles()
 {
-    QFETCH(const QLocale, locale);
-    QFETCH(const bool, enterOnly);
+    QFETCH(const QString, setup);
     QFETCH(const QString, script);
     QtZetoDoubleSpinBoxVal box;
-    box.setLocale(locale);
+    box.setLocale(setup.contains(QLatin1Char('g')) ? QLocale(QLocale::German) : QLocale::c());
     box.setSingleStep(0.25);
     box.setValue(1.1);
     box.setSnapToStep(true);
-    box.setAcceptWhileTyping(!enterOnly);
+    box.setAcceptWhileTyping(!setup.contains(QLatin1Char('e')));
     QVERIFY(showActive(&box));
     box.selectAll();
 

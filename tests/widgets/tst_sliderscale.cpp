@@ -1,6 +1,7 @@
 #include "doubleslidergrid.h"
 #include "sliderscale.h"
 #include "testmain.h"
+#include "widgetdriver.h"
 
 #include <QRandomGenerator>
 #include <QtTest>
@@ -11,7 +12,6 @@ namespace {
 
 constexpr int lowest = std::numeric_limits<int>::min();
 constexpr int highest = std::numeric_limits<int>::max();
-constexpr double huge = std::numeric_limits<double>::max();
 
 /// A number of any magnitude and sign, now and then a limit of int.
 int anyInt(QRandomGenerator& random)
@@ -69,46 +69,42 @@ private slots:
 
 void TestSliderScale::scales_data()
 {
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<int>("minimum");
-    QTest::addColumn<int>("maximum");
-    QTest::addColumn<QString>("positions");
-    QTest::addColumn<int>("position");
-    QTest::addColumn<int>("value");
-
-    const auto row = [](const char* name, SliderScale::Mode mode, int minimum, int maximum,
-                        const char* positions, int position, int value) {
-        QTest::newRow(name) << int(mode) << minimum << maximum << positions << position << value;
-    };
-    using S = SliderScale;
-    row("linear", S::Linear, -5, 10, "-5..10", 3, 3);
-    row("linear, whole range", S::Linear, lowest, highest, "-2147483648..2147483647", -1, -1);
-    row("root, no whole root", S::SquareRoot, 0, 10, "0..4", 2, 4);
-    row("root, rounded up already", S::SquareRoot, 0, 8, "0..3", 2, 4);
-    row("root, offset", S::SquareRoot, -100, 0, "0..10", 5, -75);
-    row("root, empty", S::SquareRoot, 7, 7, "0..0", 0, 7);
-    row("root, whole range", S::SquareRoot, lowest, highest, "0..65536", 65535, 2147352577);
-    row("logarithmic", S::Logarithmic, 0, 990, "100..300", 200, 90);
-    row("logarithmic, falls short", S::Logarithmic, 0, 1009, "100..301", 300, 990);
-    row("logarithmic, offset", S::Logarithmic, -45, 945, "100..300", 200, 45);
-    row("logarithmic, empty", S::Logarithmic, 7, 7, "100..100", 100, 7);
-    row("logarithmic, whole range", S::Logarithmic, lowest, highest, "100..964", 100 + 30, -2147483638);
+    // setup: mode (0 linear, 1 logarithmic, 2 square root) and range; script: a position; expected: the
+    // positions, the value there and the position of that
+    addScripts({
+        {"linear", "0 -5 10", "3", "-5..10 3 3"},
+        {"linear, whole range", "0 -2147483648 2147483647", "-1", "-2147483648..2147483647 -1 -1"},
+        {"root, no whole root", "2 0 10", "2", "0..4 4 2"},
+        {"root, rounded up already", "2 0 8", "2", "0..3 4 2"},
+        {"root, offset", "2 -100 0", "5", "0..10 -75 5"},
+        {"root, empty", "2 7 7", "0", "0..0 7 0"},
+        {"root, whole range", "2 -2147483648 2147483647", "65535", "0..65536 2147352577 65535"},
+        {"logarithmic", "1 0 990", "200", "100..300 90 200"},
+        {"logarithmic, falls short", "1 0 1009", "300", "100..301 990 300"},
+        {"logarithmic, offset", "1 -45 945", "200", "100..300 45 200"},
+        {"logarithmic, empty", "1 7 7", "100", "100..100 7 100"},
+        {"logarithmic, whole range", "1 -2147483648 2147483647", "130", "100..964 -2147483638 130"},
+        {"before the first", "1 0 990", "-2147483648", "100..300 0 100"},
+        {"behind the last", "1 0 990", "2147483647", "100..300 990 300"},
+    });
 }
 
 void TestSliderScale::scales()
 {
-    QFETCH(const int, mode);
-    QFETCH(const int, position);
-    QFETCH(const int, value);
+    QFETCH(const QString, setup);
+    QFETCH(const QString, script);
+    const QStringList words = setup.split(QLatin1Char(' '));
     SliderScale scale;
-    scale.mode = SliderScale::Mode(mode);
-    scale.minimum = *static_cast<int*>(QTest::qData("minimum", QMetaType::Int));
-    scale.maximum = *static_cast<int*>(QTest::qData("maximum", QMetaType::Int));
-    QTEST(QStringLiteral("%1..%2").arg(scale.firstPosition()).arg(scale.lastPosition()), "positions");
-    QCOMPARE(scale.valueAt(position), value);
-    QCOMPARE(scale.positionOf(value), position);
-    QCOMPARE(scale.valueAt(lowest), scale.minimum);
-    QCOMPARE(scale.valueAt(highest), scale.maximum);
+    scale.mode = SliderScale::Mode(words[0].toInt());
+    scale.minimum = words[1].toInt();
+    scale.maximum = words[2].toInt();
+    const int value = scale.valueAt(script.toInt());
+    QTEST(QStringLiteral("%1..%2 %3 %4")
+              .arg(scale.firstPosition())
+              .arg(scale.lastPosition())
+              .arg(value)
+              .arg(scale.positionOf(value)),
+          "expected");
 }
 
 void TestSliderScale::keysNeverGetStuck()
@@ -171,38 +167,36 @@ void TestSliderScale::holdsForAnyRange()
 
 void TestSliderScale::doubleGrid_data()
 {
-    QTest::addColumn<double>("minimum");
-    QTest::addColumn<double>("maximum");
-    QTest::addColumn<double>("step");
-    QTest::addColumn<int>("last");
-    QTest::addColumn<int>("position");
-    QTest::addColumn<double>("value");
-
-    QTest::newRow("whole steps") << 0.0 << 100.0 << 1.0 << 100 << 37 << 37.0;
-    QTest::newRow("fractions") << -1.0 << 1.0 << 0.25 << 8 << 3 << -0.25;
-    QTest::newRow("no whole number of steps") << 0.0 << 10.2 << 1.0 << 11 << 10 << 10.0;
-    QTest::newRow("rounded up already") << 0.0 << 10.7 << 1.0 << 11 << 11 << 10.7;
-    QTest::newRow("no step too much by rounding") << 0.1 << 0.8 << 0.1 << 7 << 7 << 0.8;
-    QTest::newRow("step beyond the range") << 0.0 << 1.0 << 5.0 << 1 << 1 << 1.0;
-    QTest::newRow("empty range") << 4.0 << 4.0 << 1.0 << 0 << 0 << 4.0;
-    QTest::newRow("step 0 is the last decimal") << 0.0 << 2.0 << 0.0 << 2000 << 1500 << 1.5;
-    QTest::newRow("negative step") << 0.0 << 2.0 << -0.5 << 2000 << 1500 << 1.5;
-    QTest::newRow("more steps than positions") << 0.0 << 4e9 << 1.0 << 1000000000 << 250000000 << 1e9;
-    QTest::newRow("whole range") << -huge << huge << 1.0 << 1000000000 << 500000000 << 0.0;
-    QTest::newRow("whole range, huge step") << -huge << huge << huge << 2 << 1 << 0.0;
+    // setup: range and step; script: a position; expected: the last position, the value there and the
+    // position of that
+    addScripts({
+        {"whole steps", "0 100 1", "37", "100 37 37"},
+        {"fractions", "-1 1 0.25", "3", "8 -0.25 3"},
+        {"no whole number of steps", "0 10.2 1", "10", "11 10 10"},
+        {"rounded up already", "0 10.7 1", "11", "11 10.7 11"},
+        {"no step too much by rounding", "0.1 0.8 0.1", "7", "7 0.8 7"},
+        {"step beyond the range", "0 1 5", "1", "1 1 1"},
+        {"empty range", "4 4 1", "0", "0 4 0"},
+        {"step 0 is the last decimal", "0 2 0", "1500", "2000 1.5 1500"},
+        {"negative step", "0 2 -0.5", "1500", "2000 1.5 1500"},
+        {"more steps than positions", "0 4e9 1", "250000000", "1000000000 1e+09 250000000"},
+        {"whole range", "-1.7e308 1.7e308 1", "250000000", "1000000000 -8.5e+307 250000000"},
+        {"whole range, huge step", "-1.7e308 1.7e308 1.7e308", "1", "2 0 1"},
+    });
 }
 
 void TestSliderScale::doubleGrid()
 {
+    QFETCH(const QString, setup);
+    QFETCH(const QString, script);
+    const QStringList words = setup.split(QLatin1Char(' '));
     DoubleSliderGrid grid;
-    QFETCH(const int, position);
-    QFETCH(const double, value);
-    grid.minimum = *static_cast<double*>(QTest::qData("minimum", QMetaType::Double));
-    grid.maximum = *static_cast<double*>(QTest::qData("maximum", QMetaType::Double));
-    grid.singleStep = *static_cast<double*>(QTest::qData("step", QMetaType::Double));
-    QTEST(grid.lastPosition(), "last");
-    QVERIFY(std::abs(grid.valueAt(position) - value) <= grid.maximum * 1e-15);
-    QCOMPARE(grid.positionOf(value), position);
+    grid.minimum = words[0].toDouble();
+    grid.maximum = words[1].toDouble();
+    grid.singleStep = words[2].toDouble();
+    const double value = grid.valueAt(script.toInt());
+    QTEST(QStringLiteral("%1 %2 %3").arg(grid.lastPosition()).arg(value).arg(grid.positionOf(value)),
+          "expected");
 }
 
 void TestSliderScale::doubleGridHoldsForAnyRange()

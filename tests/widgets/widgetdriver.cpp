@@ -98,6 +98,14 @@ void drive(QWidget* widget, const QString& script)
     }
 }
 
+void addScripts(std::initializer_list<Script> rows)
+{
+    for (const char* const column : {"setup", "script", "expected"})
+        QTest::addColumn<QString>(column);
+    for (const Script& row : rows)
+        QTest::newRow(row.name) << row.setup << row.script << row.expected;
+}
+
 bool showActive(QWidget* widget)
 {
     widget->show();

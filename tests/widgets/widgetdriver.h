@@ -4,7 +4,7 @@
 #include <QVariant>
 #include <QWidget>
 
-class QSlider;
+#include <initializer_list>
 
 /// The signals of a few objects as one line: "name value, name value ...".
 class SignalLog
@@ -33,6 +33,18 @@ private:
 /// from here on; "type:42" types; "wheel+" and "wheel-" turn the wheel one notch; "press", "drag:40" and
 /// "release" hold the slider's handle at a position; "click" clicks with the mouse; any other word is a key.
 void drive(QWidget* widget, const QString& script);
+
+/// A row of a data table: how a widget is set up, what is done to it and what the log then says.
+struct Script
+{
+    const char* name;
+    const char* setup;
+    const char* script;
+    const char* expected;
+};
+
+/// Makes the columns "setup", "script" and "expected" with \a rows.
+void addScripts(std::initializer_list<Script> rows);
 
 /// Shows \a widget and waits until it takes keys. \return whether it does.
 bool showActive(QWidget* widget);
