@@ -19,9 +19,8 @@ struct Texts
 /// The feature that the lines are about.
 struct Subject
 {
-    GenApi::IValue& feature;
+    GenParamFeature feature;
     GenApi::INode& node;
-    GenParamKind kind;
     GenParamFormat format;
 };
 
@@ -40,12 +39,12 @@ QString escaped(const GenICam::gcstring& text)
 
 QString limitText(const Subject& subject, int64_t value)
 {
-    return valueText(subject.kind, qint64{value}, subject.format).toHtmlEscaped();
+    return valueText(subject.feature.kind, qint64{value}, subject.format).toHtmlEscaped();
 }
 
 QString limitText(const Subject& subject, double value)
 {
-    return valueText(subject.kind, value, subject.format).toHtmlEscaped();
+    return valueText(subject.feature.kind, value, subject.format).toHtmlEscaped();
 }
 
 QString stepText(const Subject& subject, int64_t step)
@@ -74,11 +73,11 @@ bool hasStep(GenApi::IFloat& node)
 template <typename NumberLine>
 QString ofNumber(const Subject& subject, NumberLine line)
 {
-    const bool isInteger = isIntegerKind(subject.kind);
-    if ((!isInteger && subject.kind != GenParamKind::Float) || !GenApi::IsAvailable(&subject.feature))
+    const bool isInteger = isIntegerKind(subject.feature.kind);
+    if ((!isInteger && subject.feature.kind != GenParamKind::Float) ||
+        !GenApi::IsAvailable(subject.feature.value))
         return QString();
-    return isInteger ? line(dynamic_cast<GenApi::IInteger&>(subject.feature))
-                     : line(dynamic_cast<GenApi::IFloat&>(subject.feature));
+    return isInteger ? line(*subject.feature.integer) : line(*subject.feature.real);
 }
 
 QString joined(QStringList texts, const QString& separator)
@@ -113,14 +112,14 @@ QString typeName(GenParamKind kind)
 
 QString typeLine(const Subject& subject)
 {
-    const QString type = typeName(subject.kind);
+    const QString type = typeName(subject.feature.kind);
     return type.isNull() ? QString() : Texts::tr("<i>Type:</i> %1").arg(type);
 }
 
 QString selectorsLine(const Subject& subject)
 {
     GenApi::FeatureList_t selectors;
-    dynamic_cast<GenApi::ISelector&>(subject.feature).GetSelectingFeatures(selectors);
+    dynamic_cast<GenApi::ISelector&>(*subject.feature.value).GetSelectingFeatures(selectors);
     QStringList names;
     for (GenApi::IValue* selector : selectors)
         names += escaped(dynamic_cast<GenApi::INode&>(*selector).GetName());
@@ -159,10 +158,10 @@ QString validValuesLine(const Subject& subject)
 
 QString entriesLine(const Subject& subject)
 {
-    if (subject.kind != GenParamKind::Enumeration)
+    if (subject.feature.kind != GenParamKind::Enumeration)
         return QString();
     GenApi::NodeList_t entries;
-    dynamic_cast<GenApi::IEnumeration&>(subject.feature).GetEntries(entries);
+    subject.feature.enumeration->GetEntries(entries);
     QStringList lines(Texts::tr("<i>Enumeration entries</i>:"));
     for (GenApi::INode* node : entries) {
         const auto* entry = dynamic_cast<GenApi::IEnumEntry*>(node);
@@ -174,13 +173,13 @@ QString entriesLine(const Subject& subject)
 
 QString descriptionLine(const Subject& subject)
 {
-    const QString text = paramDescription(subject.feature).toHtmlEscaped();
+    const QString text = paramDescription(*subject.feature.value).toHtmlEscaped();
     return text.isEmpty() ? QString() : Texts::tr("<i>Description:</i> %1").arg(text);
 }
 
 QString streamableLine(const Subject& subject)
 {
-    if (subject.kind == GenParamKind::Category)
+    if (subject.feature.kind == GenParamKind::Category)
         return QString();
     return Texts::tr("<i>Streamable:</i> %1").arg(yesNo(subject.node.IsStreamable()));
 }
@@ -201,22 +200,21 @@ QString cachingName(GenApi::ECachingMode mode)
 
 QString cachableLine(const Subject& subject)
 {
-    if (subject.kind == GenParamKind::Category)
+    if (subject.feature.kind == GenParamKind::Category)
         return QString();
     return Texts::tr("<i>Cachable:</i> %1").arg(cachingName(subject.node.GetCachingMode()));
 }
 
 } // namespace
 
-QString paramToolTip(GenApi::IValue& feature, GenParamKind kind)
+QString paramToolTip(const GenParamFeature& feature)
 {
     static const Line lines[] = {nameLine,        typeLine,    selectorsLine,   limitsLine,     incrementLine,
                                  validValuesLine, entriesLine, descriptionLine, streamableLine, cachableLine};
-    auto* node = dynamic_cast<GenApi::INode*>(&feature);
+    auto* node = dynamic_cast<GenApi::INode*>(feature.value);
     if (!node)
         return QString();
-    const Subject subject{feature, *node, kind,
-                          genApiOr(GenParamFormat(), [&] { return formatOfParam(feature, kind); })};
+    const Subject subject{feature, *node, genApiOr(GenParamFormat(), [&] { return formatOfParam(feature); })};
     QStringList html;
     for (const Line line : lines) {
         const QString text = genApiOr(QString(), [&] { return line(subject); });

@@ -8,14 +8,13 @@
 /// read of it is kept in the first of them, see GenParamTreeItems::primary().
 struct GenParamTreeItem
 {
-    GenApi::IValue* feature = nullptr;
+    GenParamFeature feature;
     GenParamTreeItem* parent = nullptr;   ///< null at the top level
     GenParamTreeItem* children = nullptr; ///< the rows below a category, side by side in memory
     qint32 row = 0;
     qint32 childCount = 0;
 
     GenParamReading reading; ///< what is shown, unread until it is asked for
-    GenParamKind kind = GenParamKind::Unknown;
     bool isRepeated = false; ///< the feature has other rows too
 
     /// The feature may have changed since it was read. Set by any thread, taken by the model's.

@@ -15,15 +15,15 @@ struct OrderByFeature
 {
     bool operator()(const GenParamTreeItem* a, const GenParamTreeItem* b) const
     {
-        return std::less<>()(a->feature, b->feature);
+        return std::less<>()(a->feature.value, b->feature.value);
     }
     bool operator()(const GenParamTreeItem* a, const GenApi::IValue* b) const
     {
-        return std::less<>()(a->feature, b);
+        return std::less<>()(a->feature.value, b);
     }
     bool operator()(const GenApi::IValue* a, const GenParamTreeItem* b) const
     {
-        return std::less<>()(a, b->feature);
+        return std::less<>()(a, b->feature.value);
     }
 };
 
@@ -39,14 +39,15 @@ std::vector<GenApi::IValue*> membersOf(const GenApi::IValue& category)
 
 bool isCategory(const GenParamTreeItem& item)
 {
-    return item.kind == GenParamKind::Category ||
-           (item.kind == GenParamKind::Unknown && dynamic_cast<GenApi::ICategory*>(item.feature));
+    return item.feature.kind == GenParamKind::Category ||
+           (item.feature.kind == GenParamKind::Unknown &&
+            dynamic_cast<GenApi::ICategory*>(item.feature.value));
 }
 
 bool isBelow(const GenParamTreeItem& item, const GenApi::IValue* feature)
 {
     for (const GenParamTreeItem* ancestor = item.parent; ancestor; ancestor = ancestor->parent)
-        if (ancestor->feature == feature)
+        if (ancestor->feature.value == feature)
             return true;
     return false;
 }
@@ -72,7 +73,7 @@ void GenParamTreeItems::build(GenApi::INodeMap& nodeMap)
     addCategory(build, *root, nullptr);
     if (!m_trustsRepresentation)
         for (const auto& [item, kind] : build.namedAddresses)
-            item->kind = kind;
+            item->feature.kind = kind;
     sortByFeature();
 }
 
@@ -93,7 +94,7 @@ void GenParamTreeItems::addCategory(Build& build, GenApi::IValue& category, GenP
     (parent ? parent->children : m_root) = rows;
     (parent ? parent->childCount : m_rootCount) = count;
     for (qint32 row = 0; row < count; ++row) {
-        rows[row].feature = members[static_cast<size_t>(row)];
+        rows[row].feature.value = members[static_cast<size_t>(row)];
         rows[row].parent = parent;
         rows[row].row = row;
         addRow(build, rows[row]);
@@ -103,25 +104,30 @@ void GenParamTreeItems::addCategory(Build& build, GenApi::IValue& category, GenP
 void GenParamTreeItems::addRow(Build& build, GenParamTreeItem& item)
 {
     m_byFeature.push_back(&item);
-    item.kind = genApiOr(GenParamKind::Unknown, [&] { return declaredKind(*item.feature); });
-    if (isIntegerKind(item.kind)) {
-        const GenICam::gcstring name = genApiOr(
-            GenICam::gcstring(), [&] { return dynamic_cast<GenApi::INode&>(*item.feature).GetName(); });
-        if (item.kind == GenParamKind::IPv4Address && name == "GevCurrentIPAddress")
-            m_trustsRepresentation = true;
-        const GenParamKind named = namedAddressKind(name);
-        if (named != GenParamKind::Unknown)
-            build.namedAddresses.emplace_back(&item, named);
-    } else if (isCategory(item) && item.feature != build.root && !isBelow(item, item.feature)) {
-        addCategory(build, *item.feature, &item);
-    }
+    GenApi::IValue& value = *item.feature.value;
+    item.feature = genApiOr(item.feature, [&value] { return declaredFeature(value); });
+    if (isIntegerKind(item.feature.kind))
+        noteAddress(build, item);
+    else if (isCategory(item) && &value != build.root && !isBelow(item, &value))
+        addCategory(build, value, &item);
+}
+
+void GenParamTreeItems::noteAddress(Build& build, GenParamTreeItem& item)
+{
+    const GenICam::gcstring name = genApiOr(
+        GenICam::gcstring(), [&item] { return dynamic_cast<GenApi::INode&>(*item.feature.value).GetName(); });
+    if (item.feature.kind == GenParamKind::IPv4Address && name == "GevCurrentIPAddress")
+        m_trustsRepresentation = true;
+    const GenParamKind named = namedAddressKind(name);
+    if (named != GenParamKind::Unknown)
+        build.namedAddresses.emplace_back(&item, named);
 }
 
 void GenParamTreeItems::sortByFeature()
 {
     std::stable_sort(m_byFeature.begin(), m_byFeature.end(), OrderByFeature());
     for (size_t i = 1; i < m_byFeature.size(); ++i)
-        if (m_byFeature[i]->feature == m_byFeature[i - 1]->feature)
+        if (m_byFeature[i]->feature.value == m_byFeature[i - 1]->feature.value)
             m_byFeature[i]->isRepeated = m_byFeature[i - 1]->isRepeated = true;
     m_byFeature.shrink_to_fit();
     m_blocks.shrink_to_fit();
@@ -141,5 +147,5 @@ GenParamTreeItem* GenParamTreeItems::primary(const GenApi::IValue* feature) cons
 
 GenParamTreeItem& GenParamTreeItems::primary(GenParamTreeItem& item) const
 {
-    return item.isRepeated ? **rowsOf(item.feature).first : item;
+    return item.isRepeated ? **rowsOf(item.feature.value).first : item;
 }

@@ -50,6 +50,7 @@ private:
 
     void addCategory(Build& build, GenApi::IValue& category, GenParamTreeItem* parent);
     void addRow(Build& build, GenParamTreeItem& item);
+    void noteAddress(Build& build, GenParamTreeItem& item);
     void sortByFeature();
 
     std::vector<Block> m_blocks;
@@ -64,8 +65,8 @@ void GenParamTreeItems::forEachFeature(Visit visit) const
 {
     const GenApi::IValue* last = nullptr;
     for (GenParamTreeItem* item : m_byFeature) {
-        if (item->feature != last)
+        if (item->feature.value != last)
             visit(*item);
-        last = item->feature;
+        last = item->feature.value;
     }
 }

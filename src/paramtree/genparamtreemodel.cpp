@@ -39,7 +39,7 @@ QVariant background(const GenParamTreeItem& item)
 {
     if (item.reading.state == GenParamState::Failed)
         return QBrush(QColor(255, 0, 0, 72));
-    if (item.kind != GenParamKind::Category)
+    if (item.feature.kind != GenParamKind::Category)
         return QVariant();
     QColor tint = QGuiApplication::palette().color(QPalette::Text);
     tint.setAlpha(28);
@@ -154,16 +154,16 @@ QVariant GenParamTreeModel::data(const QModelIndex& index, int role) const
     case Qt::DisplayRole:
     case Qt::EditRole:
         if (index.column() == NameColumn)
-            return displayName(*item.feature);
+            return displayName(*item.feature.value);
         return d_ptr->valueData(item, role);
     case Qt::ToolTipRole:
-        return paramToolTip(*item.feature, item.kind);
+        return paramToolTip(item.feature);
     case Qt::WhatsThisRole:
-        return paramDescription(*item.feature);
+        return paramDescription(*item.feature.value);
     case Qt::BackgroundRole:
         return background(item);
     case FeatureRole:
-        return QVariant::fromValue(item.feature);
+        return QVariant::fromValue(item.feature.value);
     case ControlRole:
         return index.column() == ValueColumn ? d_ptr->control(item) : QVariant();
     case ErrorRole:

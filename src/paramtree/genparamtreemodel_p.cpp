@@ -26,7 +26,7 @@ bool isPlaceholder(const GenParamTreeItem& item, const QVariant& value)
 {
     const GenParamState state = item.reading.state;
     return state != GenParamState::Unread && state != GenParamState::Good &&
-           value == editValue(item.kind, item.reading);
+           value == editValue(item.feature.kind, item.reading);
 }
 
 } // namespace
@@ -51,7 +51,7 @@ void GenParamTreeModelPrivate::attach(GenApi::INodeMap* nodeMap)
     m_callbacks.reserve(static_cast<size_t>(features));
     // A change that comes before the last callback is registered is not lost: nothing has been read yet.
     m_isAttached = true;
-    items.forEachFeature([this](GenParamTreeItem& item) { registerCallback(*item.feature); });
+    items.forEachFeature([this](GenParamTreeItem& item) { registerCallback(*item.feature.value); });
 }
 
 void GenParamTreeModelPrivate::registerCallback(GenApi::IValue& feature)
@@ -163,7 +163,7 @@ void GenParamTreeModelPrivate::report(GenParamTreeItem& item, bool compare)
 
 void GenParamTreeModelPrivate::emitDataChanged(const GenParamTreeItem& item)
 {
-    const auto range = items.rowsOf(item.feature);
+    const auto range = items.rowsOf(item.feature.value);
     const std::vector<GenParamTreeItem*> rows(range.begin(), range.end());
     for (GenParamTreeItem* row : rows) {
         if (!m_isAttached)
@@ -171,6 +171,12 @@ void GenParamTreeModelPrivate::emitDataChanged(const GenParamTreeItem& item)
         const QModelIndex index = q_ptr->createIndex(row->row, GenParamTreeModel::ValueColumn, row);
         emit q_ptr->dataChanged(index, index);
     }
+}
+
+void GenParamTreeModelPrivate::resolveKind(GenParamTreeItem& item) const
+{
+    if (item.feature.kind == GenParamKind::Unknown)
+        item.feature = featureInUse(*item.feature.value, items.trustsRepresentation());
 }
 
 void GenParamTreeModelPrivate::ensureRead(GenParamTreeItem& item)
@@ -183,40 +189,39 @@ bool GenParamTreeModelPrivate::read(GenParamTreeItem& item)
 {
     GenParamReading reading;
     const std::optional<QString> fault = genApiFault([&] {
-        if (item.kind == GenParamKind::Unknown)
-            item.kind = paramKind(*item.feature, items.trustsRepresentation());
-        readParam(*item.feature, item.kind, reading);
+        resolveKind(item);
+        readParam(item.feature, reading);
     });
     if (fault)
         reading.state = GenParamState::Failed;
     const bool differs = !(reading == item.reading);
     item.reading = std::move(reading);
     if (fault)
-        m_errors.readFailed(*item.feature, *fault);
+        m_errors.readFailed(*item.feature.value, *fault);
     else
-        m_errors.readSucceeded(*item.feature, differs);
+        m_errors.readSucceeded(*item.feature.value, differs);
     return differs;
 }
 
 QVariant GenParamTreeModelPrivate::valueData(GenParamTreeItem& item, int role)
 {
     ensureRead(item);
-    return role == Qt::EditRole ? editValue(item.kind, item.reading) : displayTextOf(item);
+    return role == Qt::EditRole ? editValue(item.feature.kind, item.reading) : displayTextOf(item);
 }
 
 QString GenParamTreeModelPrivate::displayTextOf(GenParamTreeItem& item)
 {
     GenParamFormat format;
     if (item.reading.state == GenParamState::Good) {
-        if (const auto fault = genApiFault([&] { format = formatOfParam(*item.feature, item.kind); })) {
+        if (const auto fault = genApiFault([&] { format = formatOfParam(item.feature); })) {
             item.reading.state = GenParamState::Failed;
             item.reading.value = GenParamValue();
-            m_errors.readFailed(*item.feature, *fault);
+            m_errors.readFailed(*item.feature.value, *fault);
         }
     }
-    if (m_commands.isBusy(*item.feature))
+    if (m_commands.isBusy(*item.feature.value))
         return GenParamTreeModel::tr("Executing...");
-    return displayText(item.kind, item.reading, format);
+    return displayText(item.feature.kind, item.reading, format);
 }
 
 QVariant GenParamTreeModelPrivate::control(GenParamTreeItem& item)
@@ -224,20 +229,20 @@ QVariant GenParamTreeModelPrivate::control(GenParamTreeItem& item)
     ensureRead(item);
     if (!GenApi::IsWritable(accessMode(item)))
         return QVariant();
-    return QVariant::fromValue(prepareEditor(*item.feature, item.kind));
+    return QVariant::fromValue(prepareEditor(item.feature));
 }
 
 QVariant GenParamTreeModelPrivate::busyData(GenParamTreeItem& item)
 {
     ensureRead(item);
-    return item.kind == GenParamKind::Command ? m_commands.isBusy(*item.feature) : QVariant();
+    return item.feature.kind == GenParamKind::Command ? m_commands.isBusy(*item.feature.value) : QVariant();
 }
 
 GenApi::EAccessMode GenParamTreeModelPrivate::accessMode(const GenParamTreeItem& item) const
 {
     if (item.reading.state != GenParamState::Unread)
         return static_cast<GenApi::EAccessMode>(item.reading.accessMode);
-    return genApiOr(GenApi::NA, [&item] { return item.feature->GetAccessMode(); });
+    return genApiOr(GenApi::NA, [&item] { return item.feature.value->GetAccessMode(); });
 }
 
 bool GenParamTreeModelPrivate::write(GenParamTreeItem& item, const QVariant& value)
@@ -249,7 +254,7 @@ bool GenParamTreeModelPrivate::write(GenParamTreeItem& item, const QVariant& val
     if (taken) {
         // The camera may have rounded: what it holds is read when it is shown.
         item.reading = GenParamReading();
-        m_errors.writeSucceeded(*item.feature);
+        m_errors.writeSucceeded(*item.feature.value);
         emitDataChanged(item);
     } else if (wasMarked) {
         report(item, true);
@@ -263,17 +268,16 @@ bool GenParamTreeModelPrivate::tryWrite(GenParamTreeItem& item, const QVariant& 
     bool taken = false;
     bool isWritable = false;
     std::optional<QString> fault = genApiFault([&] {
-        if (item.kind == GenParamKind::Unknown)
-            item.kind = paramKind(*item.feature, items.trustsRepresentation());
-        isWritable = GenApi::IsWritable(item.feature);
-        taken = isWritable && writeParam(*item.feature, item.kind, value);
+        resolveKind(item);
+        isWritable = GenApi::IsWritable(item.feature.value);
+        taken = isWritable && writeParam(item.feature, value);
     });
-    if (taken && m_isAttached && item.kind == GenParamKind::Command)
-        m_commands.started(*item.feature);
+    if (taken && m_isAttached && item.feature.kind == GenParamKind::Command)
+        m_commands.started(*item.feature.value);
     if (!fault && isWritable && !taken)
         fault = GenParamTreeModel::tr("The value does not fit the type of the feature");
     if (fault && m_isAttached)
-        m_errors.writeFailed(*item.feature, *fault);
+        m_errors.writeFailed(*item.feature.value, *fault);
     return taken;
 }
 

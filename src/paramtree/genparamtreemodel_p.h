@@ -38,7 +38,7 @@ public:
 
     /// An editor for the feature as ControlData; nothing when it cannot be written or has none of its own.
     QVariant control(GenParamTreeItem& item);
-    QString error(const GenParamTreeItem& item) const { return m_errors.reason(*item.feature); }
+    QString error(const GenParamTreeItem& item) const { return m_errors.reason(*item.feature.value); }
     /// Nothing for what is no command.
     QVariant busyData(GenParamTreeItem& item);
 
@@ -63,6 +63,8 @@ private:
     void onNodeChanged(GenApi::INode* node);
     void postChanges();
 
+    /// Makes up for a kind that could not be asked when the tree was built. Throws what GenApi throws.
+    void resolveKind(GenParamTreeItem& item) const;
     /// Reads the feature unless what is known of it is good enough to be shown.
     void ensureRead(GenParamTreeItem& item);
     /// \return whether anything differs from what was read before.

@@ -14,22 +14,22 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(GenParamTreeModel)
 };
 
-GenParamValue readValue(GenApi::IValue& feature, GenParamKind kind)
+GenParamValue readValue(const GenParamFeature& feature)
 {
-    switch (kind) {
+    switch (feature.kind) {
     case GenParamKind::Integer:
     case GenParamKind::HexInteger:
     case GenParamKind::IPv4Address:
     case GenParamKind::MacAddress:
-        return qint64{dynamic_cast<GenApi::IInteger&>(feature).GetValue()};
+        return qint64{feature.integer->GetValue()};
     case GenParamKind::Boolean:
-        return dynamic_cast<GenApi::IBoolean&>(feature).GetValue();
+        return feature.boolean->GetValue();
     case GenParamKind::Float:
-        return dynamic_cast<GenApi::IFloat&>(feature).GetValue();
+        return feature.real->GetValue();
     case GenParamKind::String:
-        return fromGenApi(dynamic_cast<GenApi::IString&>(feature).GetValue());
+        return fromGenApi(feature.string->GetValue());
     case GenParamKind::Enumeration:
-        return fromGenApi(feature.ToString());
+        return fromGenApi(feature.enumeration->ToString());
     default:
         return std::monostate{};
     }
@@ -78,33 +78,29 @@ bool operator==(const GenParamReading& a, const GenParamReading& b)
     return a.state == b.state && a.accessMode == b.accessMode && sameValue(a.value, b.value);
 }
 
-void readParam(GenApi::IValue& feature, GenParamKind kind, GenParamReading& reading)
+void readParam(const GenParamFeature& feature, GenParamReading& reading)
 {
     reading = GenParamReading();
     reading.state = GenParamState::Failed;
-    const GenApi::EAccessMode mode = feature.GetAccessMode();
+    const GenApi::EAccessMode mode = feature.value->GetAccessMode();
     reading.accessMode = static_cast<quint8>(mode);
     if (!GenApi::IsAvailable(mode)) {
         reading.state = GenParamState::NotAvailable;
-    } else if (!GenApi::IsReadable(mode) && kind != GenParamKind::Command) {
+    } else if (!GenApi::IsReadable(mode) && feature.kind != GenParamKind::Command) {
         reading.state = GenParamState::NotReadable;
     } else {
-        reading.value = readValue(feature, kind);
+        reading.value = readValue(feature);
         reading.state = GenParamState::Good;
     }
 }
 
-GenParamFormat formatOfParam(GenApi::IValue& feature, GenParamKind kind)
+GenParamFormat formatOfParam(const GenParamFeature& feature)
 {
-    GenParamFormat format;
-    if (kind == GenParamKind::Integer) {
-        format.unit = fromGenApi(dynamic_cast<GenApi::IInteger&>(feature).GetUnit());
-    } else if (kind == GenParamKind::Float) {
-        auto& node = dynamic_cast<GenApi::IFloat&>(feature);
-        format.unit = fromGenApi(node.GetUnit());
-        format.decimals = node.GetDisplayPrecision();
-    }
-    return format;
+    if (feature.kind == GenParamKind::Integer)
+        return {fromGenApi(feature.integer->GetUnit()), 0};
+    if (feature.kind == GenParamKind::Float)
+        return {fromGenApi(feature.real->GetUnit()), feature.real->GetDisplayPrecision()};
+    return {};
 }
 
 QString valueText(GenParamKind kind, const GenParamValue& value, const GenParamFormat& format)

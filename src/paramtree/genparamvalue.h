@@ -1,6 +1,6 @@
 #pragma once
 
-#include "genparamkind.h"
+#include "genparamfeature.h"
 
 #include <QString>
 #include <QVariant>
@@ -39,10 +39,10 @@ struct GenParamFormat
 
 /// Asks access mode and value, each once. Throws what GenApi throws; \a reading then has the state Failed,
 /// and the access mode if that could be asked.
-void readParam(GenApi::IValue& feature, GenParamKind kind, GenParamReading& reading);
+void readParam(const GenParamFeature& feature, GenParamReading& reading);
 
 /// Asks what displayText() needs beside the value. Throws what GenApi throws.
-GenParamFormat formatOfParam(GenApi::IValue& feature, GenParamKind kind);
+GenParamFormat formatOfParam(const GenParamFeature& feature);
 
 /// The text of the value column.
 QString displayText(GenParamKind kind, const GenParamReading& reading, const GenParamFormat& format);

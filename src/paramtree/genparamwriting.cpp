@@ -64,26 +64,26 @@ bool writeEnumeration(GenApi::IEnumeration& node, const QVariant& value)
 
 } // namespace
 
-bool writeParam(GenApi::IValue& feature, GenParamKind kind, const QVariant& value)
+bool writeParam(const GenParamFeature& feature, const QVariant& value)
 {
-    if (isIntegerKind(kind))
-        return writeInteger(dynamic_cast<GenApi::IInteger&>(feature), value);
-    switch (kind) {
+    if (isIntegerKind(feature.kind))
+        return writeInteger(*feature.integer, value);
+    switch (feature.kind) {
     case GenParamKind::Boolean:
         if (value.canConvert<bool>())
-            dynamic_cast<GenApi::IBoolean&>(feature).SetValue(value.toBool());
+            feature.boolean->SetValue(value.toBool());
         return value.canConvert<bool>();
     case GenParamKind::Command:
-        dynamic_cast<GenApi::ICommand&>(feature).Execute();
+        feature.command->Execute();
         return true;
     case GenParamKind::Float:
-        return writeFloat(dynamic_cast<GenApi::IFloat&>(feature), value);
+        return writeFloat(*feature.real, value);
     case GenParamKind::String:
         if (value.canConvert<QString>())
-            dynamic_cast<GenApi::IString&>(feature).SetValue(toGenApi(value.toString()));
+            feature.string->SetValue(toGenApi(value.toString()));
         return value.canConvert<QString>();
     case GenParamKind::Enumeration:
-        return writeEnumeration(dynamic_cast<GenApi::IEnumeration&>(feature), value);
+        return writeEnumeration(*feature.enumeration, value);
     default:
         return false;
     }

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "genparamkind.h"
+#include "genparamfeature.h"
 
 #include <QVariant>
 
-/// Writes \a value to a feature of \a kind; a command is executed whatever the value.
+/// Writes \a value to \a feature; a command is executed whatever the value.
 ///
 /// An integer takes a text as a dotted IPv4 address and anything else as a 64-bit integer. An enumeration
 /// takes what converts to a 64-bit integer as the entry's integer value and anything else as its symbolic
@@ -12,4 +12,4 @@
 ///
 /// \return false when the kind takes no such value, also for a number beyond 64 bits; nothing is written
 /// then. Throws what GenApi throws when the camera refuses.
-bool writeParam(GenApi::IValue& feature, GenParamKind kind, const QVariant& value);
+bool writeParam(const GenParamFeature& feature, const QVariant& value);

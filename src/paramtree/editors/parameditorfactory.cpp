@@ -99,14 +99,14 @@ ControlData enumerationControl(GenApi::IEnumeration& node)
 
 } // namespace
 
-ControlData prepareEditor(GenApi::IValue& feature, GenParamKind kind)
+ControlData prepareEditor(const GenParamFeature& feature)
 {
-    const auto format = genApiOr(GenParamFormat(), [&] { return formatOfParam(feature, kind); });
+    const auto format = genApiOr(GenParamFormat(), [&] { return formatOfParam(feature); });
     return genApiOr(ControlData(), [&] {
-        switch (kind) {
+        switch (feature.kind) {
         case GenParamKind::Integer:
         case GenParamKind::HexInteger:
-            return integerControl(dynamic_cast<GenApi::IInteger&>(feature), kind, format);
+            return integerControl(*feature.integer, feature.kind, format);
         case GenParamKind::IPv4Address:
             return control<IPv4Editor>(ControlData::Text);
         case GenParamKind::MacAddress:
@@ -116,11 +116,11 @@ ControlData prepareEditor(GenApi::IValue& feature, GenParamKind kind)
         case GenParamKind::Command:
             return control<CommandEditor>(ControlData::Button);
         case GenParamKind::Float:
-            return floatControl(dynamic_cast<GenApi::IFloat&>(feature), format);
+            return floatControl(*feature.real, format);
         case GenParamKind::String:
-            return stringControl(dynamic_cast<GenApi::IString&>(feature));
+            return stringControl(*feature.string);
         case GenParamKind::Enumeration:
-            return enumerationControl(dynamic_cast<GenApi::IEnumeration&>(feature));
+            return enumerationControl(*feature.enumeration);
         default:
             return ControlData();
         }

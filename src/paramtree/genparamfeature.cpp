@@ -1,4 +1,4 @@
-#include "genparamkind.h"
+#include "genparamfeature.h"
 
 #include <algorithm>
 #include <iterator>
@@ -26,26 +26,42 @@ bool isIntegerKind(GenParamKind kind)
     return kind >= GenParamKind::Integer && kind <= GenParamKind::MacAddress;
 }
 
-GenParamKind declaredKind(GenApi::IValue& feature)
+GenParamFeature declaredFeature(GenApi::IValue& value)
 {
-    switch (dynamic_cast<GenApi::INode&>(feature).GetPrincipalInterfaceType()) {
+    GenParamFeature feature;
+    feature.value = &value;
+    switch (dynamic_cast<GenApi::INode&>(value).GetPrincipalInterfaceType()) {
     case GenApi::intfIInteger:
-        return integerKind(dynamic_cast<GenApi::IInteger&>(feature).GetRepresentation());
+        feature.integer = &dynamic_cast<GenApi::IInteger&>(value);
+        feature.kind = integerKind(feature.integer->GetRepresentation());
+        break;
     case GenApi::intfIBoolean:
-        return GenParamKind::Boolean;
+        feature.boolean = &dynamic_cast<GenApi::IBoolean&>(value);
+        feature.kind = GenParamKind::Boolean;
+        break;
     case GenApi::intfICommand:
-        return GenParamKind::Command;
+        feature.command = &dynamic_cast<GenApi::ICommand&>(value);
+        feature.kind = GenParamKind::Command;
+        break;
     case GenApi::intfIFloat:
-        return GenParamKind::Float;
+        feature.real = &dynamic_cast<GenApi::IFloat&>(value);
+        feature.kind = GenParamKind::Float;
+        break;
     case GenApi::intfIString:
-        return GenParamKind::String;
+        feature.string = &dynamic_cast<GenApi::IString&>(value);
+        feature.kind = GenParamKind::String;
+        break;
     case GenApi::intfIEnumeration:
-        return GenParamKind::Enumeration;
+        feature.enumeration = &dynamic_cast<GenApi::IEnumeration&>(value);
+        feature.kind = GenParamKind::Enumeration;
+        break;
     case GenApi::intfICategory:
-        return GenParamKind::Category;
+        feature.kind = GenParamKind::Category;
+        break;
     default:
-        return GenParamKind::Other;
+        feature.kind = GenParamKind::Other;
     }
+    return feature;
 }
 
 GenParamKind namedAddressKind(const GenICam::gcstring& name)
@@ -66,11 +82,13 @@ GenParamKind namedAddressKind(const GenICam::gcstring& name)
     return isIPv4 ? GenParamKind::IPv4Address : GenParamKind::Unknown;
 }
 
-GenParamKind paramKind(GenApi::IValue& feature, bool trustRepresentation)
+GenParamFeature featureInUse(GenApi::IValue& value, bool trustRepresentation)
 {
-    const GenParamKind declared = declaredKind(feature);
-    if (trustRepresentation || !isIntegerKind(declared))
-        return declared;
-    const GenParamKind named = namedAddressKind(dynamic_cast<GenApi::INode&>(feature).GetName());
-    return named == GenParamKind::Unknown ? declared : named;
+    GenParamFeature feature = declaredFeature(value);
+    if (trustRepresentation || !isIntegerKind(feature.kind))
+        return feature;
+    const GenParamKind named = namedAddressKind(dynamic_cast<GenApi::INode&>(value).GetName());
+    if (named != GenParamKind::Unknown)
+        feature.kind = named;
+    return feature;
 }
