@@ -97,7 +97,7 @@ void EnumerationNode::GetEntries(GenApi::NodeList_t& Entries)
         Entries.push_back(entry);
 }
 
-GenApi::IEnumeration& EnumerationNode::operator=(const GenICam::gcstring& ValueStr)
+EnumerationNode& EnumerationNode::operator=(const GenICam::gcstring& ValueStr)
 {
     FromString(ValueStr);
     return *this;

@@ -32,7 +32,7 @@ public:
 
     void GetSymbolics(GenApi::StringList_t& Symbolics) override;
     void GetEntries(GenApi::NodeList_t& Entries) override;
-    GenApi::IEnumeration& operator=(const GenICam::gcstring& ValueStr) override;
+    EnumerationNode& operator=(const GenICam::gcstring& ValueStr) override;
     void SetIntValue(int64_t Value, bool Verify = true) override;
     GenICam::gcstring operator*() override;
     int64_t GetIntValue(bool Verify = false, bool IgnoreCache = false) override;

@@ -50,7 +50,7 @@ void FloatNode::SetValue(double Value, bool Verify)
     change("SetValue", [&] { set(Value, Verify); });
 }
 
-GenApi::IFloat& FloatNode::operator=(double Value)
+FloatNode& FloatNode::operator=(double Value)
 {
     SetValue(Value);
     return *this;

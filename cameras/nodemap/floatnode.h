@@ -26,7 +26,7 @@ public:
     void assign(double value) override;
 
     void SetValue(double Value, bool Verify = true) override;
-    GenApi::IFloat& operator=(double Value) override;
+    FloatNode& operator=(double Value) override;
     double GetValue(bool Verify = false, bool IgnoreCache = false) override;
     double operator()() override;
     double operator*() override;

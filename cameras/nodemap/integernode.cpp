@@ -35,7 +35,7 @@ void IntegerNode::SetValue(int64_t Value, bool Verify)
     change("SetValue", [&] { set(Value, Verify); });
 }
 
-GenApi::IInteger& IntegerNode::operator=(int64_t Value)
+IntegerNode& IntegerNode::operator=(int64_t Value)
 {
     SetValue(Value);
     return *this;

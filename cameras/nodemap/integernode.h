@@ -24,7 +24,7 @@ public:
     void assign(int64_t value) override;
 
     void SetValue(int64_t Value, bool Verify = true) override;
-    GenApi::IInteger& operator=(int64_t Value) override;
+    IntegerNode& operator=(int64_t Value) override;
     int64_t GetValue(bool Verify = false, bool IgnoreCache = false) override;
     int64_t operator()() override;
     int64_t operator*() override;

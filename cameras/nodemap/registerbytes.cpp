@@ -8,7 +8,7 @@ namespace ZetoNodeMap {
 std::vector<uint8_t> toBytes(int64_t value, int64_t length)
 {
     std::vector<uint8_t> bytes(static_cast<size_t>(length));
-    uint64_t rest = static_cast<uint64_t>(value);
+    auto rest = static_cast<uint64_t>(value);
     for (uint8_t& byte : bytes) {
         byte = static_cast<uint8_t>(rest);
         rest >>= 8U;

@@ -78,9 +78,9 @@ public:
     bool isTraceable() const { return !m_formula || !m_formula->inputs.empty(); }
 
     /// Declares what a function looks at.
-    Setting&& computedFrom(std::vector<std::string> inputs) &&
+    Setting&& computedFrom(const std::vector<std::string>& inputs) &&
     {
-        m_formula->inputs = std::move(inputs);
+        m_formula->inputs = inputs;
         return std::move(*this);
     }
 

@@ -18,6 +18,8 @@ class Source
 {
 public:
     virtual ~Source();
+    Source(const Source&) = delete;
+    Source& operator=(const Source&) = delete;
 
     /// Tells the source its node, once, when the node map is built.
     virtual void attach(Node& node);
@@ -30,8 +32,6 @@ public:
 
 protected:
     Source() = default;
-    Source(const Source&) = delete;
-    Source& operator=(const Source&) = delete;
 };
 
 /// A source of values of type \a T.

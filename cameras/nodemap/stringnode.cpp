@@ -25,7 +25,7 @@ void StringNode::SetValue(const GenICam::gcstring& Value, bool Verify)
     change("SetValue", [&] { valueFromText(Value, Verify); });
 }
 
-GenApi::IString& StringNode::operator=(const GenICam::gcstring& Value)
+StringNode& StringNode::operator=(const GenICam::gcstring& Value)
 {
     SetValue(Value);
     return *this;

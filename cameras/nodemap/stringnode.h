@@ -21,7 +21,7 @@ public:
     void assign(const std::string& value) override;
 
     void SetValue(const GenICam::gcstring& Value, bool Verify = true) override;
-    GenApi::IString& operator=(const GenICam::gcstring& Value) override;
+    StringNode& operator=(const GenICam::gcstring& Value) override;
     GenICam::gcstring GetValue(bool Verify = false, bool IgnoreCache = false) override;
     GenICam::gcstring operator()() override;
     GenICam::gcstring operator*() override;

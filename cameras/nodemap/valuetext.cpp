@@ -2,9 +2,8 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <limits>
-#include <locale>
-#include <sstream>
 
 namespace ZetoNodeMap {
 
@@ -87,17 +86,27 @@ std::string macAddress(uint64_t address)
     return text;
 }
 
-std::string streamed(double value, const NumberFormat& format, int64_t precision)
+std::chars_format charsFormat(GenApi::EDisplayNotation notation)
 {
-    std::ostringstream stream;
-    stream.imbue(std::locale::classic());
-    if (format.notation == GenApi::fnFixed)
-        stream << std::fixed;
-    else if (format.notation == GenApi::fnScientific)
-        stream << std::scientific;
-    stream.precision(static_cast<std::streamsize>(precision));
-    stream << value;
-    return stream.str();
+    switch (notation) {
+    case GenApi::fnFixed:
+        return std::chars_format::fixed;
+    case GenApi::fnScientific:
+        return std::chars_format::scientific;
+    default:
+        return std::chars_format::general;
+    }
+}
+
+std::string formatted(double value, GenApi::EDisplayNotation notation, int64_t precision)
+{
+    const int digits = static_cast<int>(std::clamp<int64_t>(precision, 0, 1000));
+    std::string text(static_cast<size_t>(digits) + 320,
+                     '\0'); // the largest number has 309 digits before the point
+    char* end = text.data() + text.size();
+    text.resize(static_cast<size_t>(
+        std::to_chars(text.data(), end, value, charsFormat(notation), digits).ptr - text.data()));
+    return text;
 }
 
 } // namespace
@@ -134,21 +143,22 @@ std::string floatToText(double value, const NumberFormat& format, double min, do
         const std::optional<double> read = floatFromText(text);
         return read && *read >= min && *read <= max;
     };
-    std::string text = streamed(value, format, format.precision);
+    std::string text = formatted(value, format.notation, format.precision);
     if (value < min || value > max)
         return text;
     const int64_t exact = std::numeric_limits<double>::max_digits10;
     for (int64_t precision = format.precision + 1; precision <= exact && !isWritable(text); ++precision)
-        text = streamed(value, format, precision);
+        text = formatted(value, format.notation, precision);
     return text;
 }
 
 std::optional<double> floatFromText(const std::string& text)
 {
-    std::istringstream stream(text);
-    stream.imbue(std::locale::classic());
+    const size_t start = text.size() > 1 && text[0] == '+' && text[1] != '-' ? 1 : 0;
     double value = 0;
-    if (!(stream >> value) || stream.peek() != std::istringstream::traits_type::eof())
+    const char* end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data() + start, end, value);
+    if (error != std::errc() || stop != end || !std::isfinite(value))
         return std::nullopt;
     return value;
 }

@@ -114,7 +114,8 @@ void TestValueText::float_texts_follow_the_notation()
 
 void TestValueText::other_texts_are_read_whole_or_not_at_all()
 {
-    for (const char* text : {"", "1,5", "1.5 ", "x", "0x"})
+    QCOMPARE(floatFromText("+1.5E3"), std::optional<double>(1500));
+    for (const char* text : {"", "1,5", "1.5 ", "x", "0x", "inf", "nan", "+-1", "1e999"})
         QVERIFY2(!floatFromText(text), text);
     QCOMPARE(booleanFromText("true"), std::optional<bool>(true));
     QCOMPARE(booleanFromText("0"), std::optional<bool>(false));
