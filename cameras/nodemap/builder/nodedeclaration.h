@@ -46,7 +46,7 @@ struct NodeReferences
 struct NodeDeclaration
 {
     NodeDeclaration() = default;
-    virtual ~NodeDeclaration();
+    virtual ~NodeDeclaration() = default;
     NodeDeclaration(const NodeDeclaration&) = delete;
     NodeDeclaration& operator=(const NodeDeclaration&) = delete;
 
