@@ -10,13 +10,13 @@
 
 #include <chrono>
 #include <thread>
+#include <utility>
 
 namespace ZetoSimulator {
 
-SimulatedInterface::SimulatedInterface(ZetoCam::System& system, const InterfaceSetup& setup,
-                                       const Clock& clock)
+SimulatedInterface::SimulatedInterface(ZetoCam::System& system, InterfaceSetup setup, const Clock& clock)
     : m_system(system)
-    , m_setup(setup)
+    , m_setup(std::move(setup))
 {
     for (const CameraSetup& camera : m_setup.cameras) {
         m_cameras.push_back(std::make_unique<SimulatedCamera>(camera, m_setup.type, m_setup.address, clock));

@@ -21,7 +21,7 @@ namespace ZetoSimulator {
 class SimulatedInterface final : public ZetoCam::Interface
 {
 public:
-    SimulatedInterface(ZetoCam::System& system, const InterfaceSetup& setup, const Clock& clock);
+    SimulatedInterface(ZetoCam::System& system, InterfaceSetup setup, const Clock& clock);
     ~SimulatedInterface() override;
     SimulatedInterface(const SimulatedInterface&) = delete;
     SimulatedInterface& operator=(const SimulatedInterface&) = delete;

@@ -123,10 +123,12 @@ InterfaceSetup numberedInterface(int index, int cameraCount)
     numbered.cameras.clear();
     for (int i = 0; i < cameraCount; ++i) {
         const std::string number = std::to_string(index * 1000 + i);
-        CameraSetup camera = plainCamera(numbered.id + ".camera" + std::to_string(i), "Zeto M-2", number);
+        const CameraSetup camera =
+            plainCamera(numbered.id + ".camera" + std::to_string(i), "Zeto M-2", number);
         const auto host = static_cast<uint32_t>(2 + i % 250);
-        numbered.cameras.push_back(
-            onNetwork(camera, 0x02005e0b0000 + host, {ipv4(192, 168, 10, host), classC, 0}));
+        const NetworkAddress address = {ipv4(192, 168, 10, host), classC, 0};
+        const bool isOnNetwork = numbered.type == ZetoCam::InterfaceGigEVision;
+        numbered.cameras.push_back(isOnNetwork ? onNetwork(camera, 0x02005e0b0000 + host, address) : camera);
     }
     return numbered;
 }
