@@ -16,13 +16,17 @@
 ///   time. System::Close() is called when no other thread uses the library.
 /// - Texts are zero-terminated and never null. A text that changes leaves the one handed out before in place.
 /// - The order of the virtual operations is the binary interface.
-///
-/// A program that includes <windows.h> does so before this header in all its sources, because that header
-/// renames GetUserName.
 
 #include "ZetoCamError.h"
 
 #include <cstdint>
+
+#if defined(_WIN32)
+// Windows has a macro of the name of an operation below. It is taken away for good, wherever windows.h is
+// included; programs that want the function of Windows call GetUserNameW.
+#include <windows.h>
+#undef GetUserName
+#endif
 
 #if !defined(_WIN32)
 #define ZETOCAM_API __attribute__((visibility("default")))
