@@ -87,6 +87,28 @@ const TagRole* roleOf(std::string_view tag)
     return found == linkRoles.end() ? nullptr : found;
 }
 
+/// In bytes. Beyond it the library fails for lack of memory, which ends the process.
+constexpr std::int64_t maximumBlockLength = 1 << 24;
+
+bool isPossibleLength(std::int64_t length, const DescriptionNode& node)
+{
+    if (node.kind == NodeKind::Integer)
+        return length >= 1 && length <= 8;
+    if (node.kind == NodeKind::Float)
+        return length == 4 || length == 8;
+    return length >= 1 && length <= maximumBlockLength;
+}
+
+/// \return what makes a register unfit to be read, empty if nothing does.
+std::string faultOf(const DescriptionNode& node)
+{
+    if (!node.has("pPort"))
+        return "has no port";
+    if (node.has("Length") && !isPossibleLength(integerLiteral(node.text("Length")), node))
+        return "cannot have the length " + node.text("Length");
+    return {};
+}
+
 std::string symbolicOf(const XmlElement& entry)
 {
     const std::string symbolic = entry.childText("Symbolic");
@@ -143,6 +165,7 @@ CameraDescription::CameraDescription(std::string_view bytes)
         throw std::runtime_error("not a GenICam camera description: its root element is <" + m_root.name +
                                  ">");
     addNodesIn(m_root);
+    takeOutUnfitRegisters();
     for (DescriptionNode& node : m_nodes) {
         addLinks(node, *node.element);
         if (node.structure)
@@ -233,11 +256,24 @@ void CameraDescription::addLinks(DescriptionNode& node, XmlElement& element)
     for (XmlElement& child : element.children) {
         if (child.name == "Extension" || child.name == "EnumEntry" || child.name == "StructEntry")
             continue;
+        if (child.name == "pVariable" && child.attribute("Name").find('.') != std::string::npos)
+            m_problems.push_back(node.name + ": variables like " + child.attribute("Name") + " count as 0");
         if (const TagRole* known = roleOf(child.name))
             node.links.push_back({known->role, find(child.text), &child});
         if (const std::string offset = child.attribute("pOffset"); !offset.empty())
             node.links.push_back({LinkRole::Address, find(offset), &child});
         addLinks(node, child);
+    }
+}
+
+void CameraDescription::takeOutUnfitRegisters()
+{
+    for (const DescriptionNode& node : m_nodes) {
+        const std::string fault = node.isRegister() ? faultOf(node) : std::string();
+        if (fault.empty())
+            continue;
+        m_problems.push_back(node.name + ' ' + fault);
+        node.element->name = "Unfit";
     }
 }
 

@@ -120,6 +120,7 @@ private:
     int addNode(XmlElement& element, std::string name, NodeKind kind);
     void addEntries(int enumeration);
     void addLinks(DescriptionNode& node, XmlElement& element);
+    void takeOutUnfitRegisters();
     void takeOutCircles();
     int settle(int index, int depth);
 

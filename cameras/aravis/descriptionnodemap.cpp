@@ -12,7 +12,7 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
+#include <sstream>
 #include <stdexcept>
 
 namespace ZetoAravis {
@@ -41,7 +41,9 @@ static std::string readFile(const std::string& path)
     std::ifstream file(std::filesystem::u8path(path), std::ios::binary);
     if (!file)
         throw std::runtime_error(std::strerror(errno));
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    std::ostringstream contents;
+    contents << file.rdbuf();
+    return contents.str();
 }
 
 static void refuseArchive(std::string_view bytes)

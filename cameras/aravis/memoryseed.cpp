@@ -134,9 +134,9 @@ private:
     template <class Predicate>
     bool tryIn(const std::vector<int>& cells, Predicate isRight)
     {
-        std::vector<std::int64_t> before;
-        for (const int cell : cells)
-            before.push_back(m_values.integer(cell));
+        std::vector<std::int64_t> before(cells.size());
+        std::transform(cells.begin(), cells.end(), before.begin(),
+                       [this](int cell) { return m_values.integer(cell); });
         for (const bool full : {false, true}) {
             for (const int cell : cells)
                 m_values.setInteger(cell, full ? m_states.max(cell) : 1);

@@ -195,10 +195,10 @@ int NodeStates::bits(int index) const
     const DescriptionNode& node = m_description.node(index);
     if (node.has("Bit"))
         return 1;
-    if (node.has("MSB") && node.has("LSB"))
-        return static_cast<int>(std::min<std::int64_t>(
-                   63, std::abs(integerLiteral(node.text("MSB")) - integerLiteral(node.text("LSB"))))) +
-               1;
+    if (node.has("MSB") && node.has("LSB")) {
+        const double distance = std::abs(realLiteral(node.text("MSB")) - realLiteral(node.text("LSB")));
+        return static_cast<int>(std::min(distance, 63.0)) + 1;
+    }
     return static_cast<int>(std::min<std::uint64_t>(8, m_values.length(index))) * 8;
 }
 

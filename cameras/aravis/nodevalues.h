@@ -7,9 +7,12 @@
 #include <string>
 #include <vector>
 
+// The library's own names for its types, so that its header need not be included here.
+// NOLINTBEGIN(bugprone-reserved-identifier)
 using ArvDevice = struct _ArvDevice;
 using ArvGc = struct _ArvGc;
 using ArvGcNode = struct _ArvGcNode;
+// NOLINTEND(bugprone-reserved-identifier)
 
 namespace ZetoAravis {
 

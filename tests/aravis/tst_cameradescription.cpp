@@ -89,9 +89,21 @@ void TestCameraDescription::mendsBrokenDescriptions_data()
                       "<IntSwissKnife Name='B'><pVariable Name='X'>A</pVariable></IntSwissKnife>")
         << 2 << QByteArray("B: pVariable");
     QTest::newRow("an address from its own value")
-        << QByteArray(
-               "<IntReg Name='A'><IntSwissKnife><pVariable Name='X'>A</pVariable></IntSwissKnife></IntReg>")
+        << QByteArray("<IntReg Name='A'><pPort>P</pPort><IntSwissKnife><pVariable "
+                      "Name='X'>A</pVariable></IntSwissKnife></IntReg>")
         << 1 << QByteArray("A: pVariable");
+    QTest::newRow("a register without a port")
+        << QByteArray("<IntReg Name='A'><Length>4</Length></IntReg>") << 1 << QByteArray("A has no port");
+    for (const char* length : {"0", "-4", "9", "0x7FFFFFFFFFFFFFFF"})
+        QTest::addRow("an integer of %s bytes", length)
+            << "<IntReg Name='A'><Length>" + QByteArray(length) + "</Length><pPort>P</pPort></IntReg>" << 1
+            << "A cannot have the length " + QByteArray(length);
+    QTest::newRow("a text of 2 GiB")
+        << QByteArray("<StringReg Name='A'><Length>0x7FFFFFFF</Length><pPort>P</pPort></StringReg>") << 1
+        << QByteArray("A cannot have the length");
+    QTest::newRow("variables that are not supported")
+        << QByteArray("<SwissKnife Name='A'><pVariable Name='X.Max'>B</pVariable></SwissKnife>") << 1
+        << QByteArray("X.Max");
     QTest::newRow("a limit on itself is no circle")
         << QByteArray("<Integer Name='A'><Value>1</Value><pMax>A</pMax></Integer>") << 1 << QByteArray();
     QTest::newRow("a long chain") << QByteArray::fromStdString(chain(100)) << 100 << QByteArray();
