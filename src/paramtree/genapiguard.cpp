@@ -28,6 +28,14 @@ QString currentGenApiError()
     }
 }
 
+GenApi::INode& nodeOf(GenApi::IValue& value)
+{
+    GenApi::INode* node = value.GetNode();
+    if (!node)
+        throw DYNAMICCAST_EXCEPTION("The value has no node");
+    return *node;
+}
+
 QString fromGenApi(const GenICam::gcstring& text)
 {
     return QString::fromUtf8(text.c_str(), static_cast<int>(text.length()));

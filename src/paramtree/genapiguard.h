@@ -36,6 +36,9 @@ Result genApiOr(Result fallback, Call&& call)
     }
 }
 
+/// The node of \a value; throws when it has none.
+GenApi::INode& nodeOf(GenApi::IValue& value);
+
 /// GenApi texts are UTF-8.
 QString fromGenApi(const GenICam::gcstring& text);
 GenICam::gcstring toGenApi(const QString& text);

@@ -9,7 +9,7 @@ namespace {
 /// The feature's name or display name; empty when a failing camera does not even tell that.
 QString nameOf(GenApi::IValue& feature)
 {
-    const auto node = [&feature]() -> GenApi::INode& { return dynamic_cast<GenApi::INode&>(feature); };
+    const auto node = [&feature]() -> GenApi::INode& { return nodeOf(feature); };
     QString name = genApiOr(QString(), [&] { return fromGenApi(node().GetName()); });
     if (!name.isEmpty())
         return name;

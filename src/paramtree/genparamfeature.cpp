@@ -1,6 +1,9 @@
 #include "genparamfeature.h"
 
+#include "genapiguard.h"
+
 #include <algorithm>
+#include <cstring>
 #include <iterator>
 
 namespace {
@@ -30,7 +33,7 @@ GenParamFeature declaredFeature(GenApi::IValue& value)
 {
     GenParamFeature feature;
     feature.value = &value;
-    switch (dynamic_cast<GenApi::INode&>(value).GetPrincipalInterfaceType()) {
+    switch (nodeOf(value).GetPrincipalInterfaceType()) {
     case GenApi::intfIInteger:
         feature.integer = &dynamic_cast<GenApi::IInteger&>(value);
         feature.kind = integerKind(feature.integer->GetRepresentation());
@@ -75,6 +78,8 @@ GenParamKind namedAddressKind(const GenICam::gcstring& name)
                                             "GevPrimaryApplicationIPAddress",
                                             "GevMCDA",
                                             "GevSCDA"};
+    if (std::strncmp(name.c_str(), "Gev", 3) != 0)
+        return GenParamKind::Unknown;
     if (name == "GevMACAddress")
         return GenParamKind::MacAddress;
     const bool isIPv4 = std::any_of(std::begin(ipv4Names), std::end(ipv4Names),
@@ -87,7 +92,7 @@ GenParamFeature featureInUse(GenApi::IValue& value, bool trustRepresentation)
     GenParamFeature feature = declaredFeature(value);
     if (trustRepresentation || !isIntegerKind(feature.kind))
         return feature;
-    const GenParamKind named = namedAddressKind(dynamic_cast<GenApi::INode&>(value).GetName());
+    const GenParamKind named = namedAddressKind(nodeOf(value).GetName());
     if (named != GenParamKind::Unknown)
         feature.kind = named;
     return feature;

@@ -122,7 +122,7 @@ QString selectorsLine(const Subject& subject)
     dynamic_cast<GenApi::ISelector&>(*subject.feature.value).GetSelectingFeatures(selectors);
     QStringList names;
     for (GenApi::IValue* selector : selectors)
-        names += escaped(dynamic_cast<GenApi::INode&>(*selector).GetName());
+        names += escaped(nodeOf(*selector).GetName());
     return names.isEmpty() ? QString()
                            : Texts::tr("<i>Selectors:</i> %1").arg(joined(names, QStringLiteral(", ")));
 }
@@ -227,7 +227,7 @@ QString paramToolTip(const GenParamFeature& feature)
 QString paramDescription(GenApi::IValue& feature)
 {
     return genApiOr(QString(), [&feature] {
-        const auto& node = dynamic_cast<GenApi::INode&>(feature);
+        const auto& node = nodeOf(feature);
         const QString description = fromGenApi(node.GetDescription());
         return description.isEmpty() ? fromGenApi(node.GetToolTip()) : description;
     });

@@ -15,6 +15,9 @@ struct GenParamTreeItem
     qint32 childCount = 0;
 
     GenParamReading reading; ///< what is shown, unread until it is asked for
+    quint8 unit = 0;         ///< of a number, see GenParamTreeItems::format()
+    quint8 decimals = 0;     ///< of a float
+    bool isFormatKnown = false;
     bool isRepeated = false; ///< the feature has other rows too
 
     /// The feature may have changed since it was read. Set by any thread, taken by the model's.

@@ -11,6 +11,9 @@ namespace {
 /// Far above any device. Categories that list each other over several levels multiply without end.
 constexpr size_t maxRows = 200000;
 
+/// As many as an item can number. The unit of a feature beyond them is asked each time.
+constexpr size_t maxUnits = 256;
+
 struct OrderByFeature
 {
     bool operator()(const GenParamTreeItem* a, const GenParamTreeItem* b) const
@@ -106,16 +109,38 @@ void GenParamTreeItems::addRow(Build& build, GenParamTreeItem& item)
     m_byFeature.push_back(&item);
     GenApi::IValue& value = *item.feature.value;
     item.feature = genApiOr(item.feature, [&value] { return declaredFeature(value); });
+    genApiFault([this, &item] { format(item); });
     if (isIntegerKind(item.feature.kind))
         noteAddress(build, item);
     else if (isCategory(item) && &value != build.root && !isBelow(item, &value))
         addCategory(build, value, &item);
 }
 
+GenParamFormat GenParamTreeItems::format(GenParamTreeItem& item)
+{
+    if (item.isFormatKnown)
+        return {m_units[item.unit], item.decimals};
+    const GenParamFormat format = formatOfParam(item.feature);
+    const size_t unit = unitNumber(format.unit);
+    item.unit = static_cast<quint8>(unit);
+    item.decimals = static_cast<quint8>(qBound(qint64{0}, format.decimals, qint64{255}));
+    item.isFormatKnown = unit < maxUnits && item.feature.kind != GenParamKind::Unknown;
+    return format;
+}
+
+size_t GenParamTreeItems::unitNumber(const QString& unit)
+{
+    const auto found = std::find(m_units.begin(), m_units.end(), unit);
+    const auto number = static_cast<size_t>(found - m_units.begin());
+    if (found == m_units.end() && number < maxUnits)
+        m_units.push_back(unit);
+    return number;
+}
+
 void GenParamTreeItems::noteAddress(Build& build, GenParamTreeItem& item)
 {
-    const GenICam::gcstring name = genApiOr(
-        GenICam::gcstring(), [&item] { return dynamic_cast<GenApi::INode&>(*item.feature.value).GetName(); });
+    const GenICam::gcstring name =
+        genApiOr(GenICam::gcstring(), [&item] { return nodeOf(*item.feature.value).GetName(); });
     if (item.feature.kind == GenParamKind::IPv4Address && name == "GevCurrentIPAddress")
         m_trustsRepresentation = true;
     const GenParamKind named = namedAddressKind(name);

@@ -40,6 +40,10 @@ public:
     template <typename Visit>
     void forEachFeature(Visit visit) const;
 
+    /// What surrounds a value in its text. Asked once, when the tree is built; asked again when that failed,
+    /// and then throws what GenApi throws.
+    GenParamFormat format(GenParamTreeItem& item);
+
     /// Whether the declared representation of integers goes before their names: true when the device's own IP
     /// address feature declares one.
     bool trustsRepresentation() const { return m_trustsRepresentation; }
@@ -51,12 +55,14 @@ private:
     void addCategory(Build& build, GenApi::IValue& category, GenParamTreeItem* parent);
     void addRow(Build& build, GenParamTreeItem& item);
     void noteAddress(Build& build, GenParamTreeItem& item);
+    size_t unitNumber(const QString& unit);
     void sortByFeature();
 
     std::vector<Block> m_blocks;
     std::vector<GenParamTreeItem*> m_byFeature;
     GenParamTreeItem* m_root = nullptr;
     qint32 m_rootCount = 0;
+    std::vector<QString> m_units; ///< the distinct ones, which are few
     bool m_trustsRepresentation = false;
 };
 

@@ -28,7 +28,7 @@ GenApi::INodeMap* nodeMapOf(ZetoGenParam::Array* array)
 QString displayName(GenApi::IValue& feature)
 {
     return genApiOr(QString(), [&feature] {
-        const auto& node = dynamic_cast<GenApi::INode&>(feature);
+        const auto& node = nodeOf(feature);
         const QString name = fromGenApi(node.GetDisplayName());
         return name.isEmpty() ? fromGenApi(node.GetName()) : name;
     });

@@ -58,7 +58,7 @@ void GenParamTreeModelPrivate::registerCallback(GenApi::IValue& feature)
 {
     const auto destroy = [](GenApi::CNodeCallback* callback) { callback->Destroy(); };
     genApiFault([&] {
-        auto& node = dynamic_cast<GenApi::INode&>(feature);
+        auto& node = nodeOf(feature);
         std::unique_ptr<GenApi::CNodeCallback, decltype(destroy)> callback(
             GenApi::make_NodeCallback(&node, *this, &GenParamTreeModelPrivate::onNodeChanged,
                                       GenApi::cbPostInsideLock),
@@ -213,7 +213,7 @@ QString GenParamTreeModelPrivate::displayTextOf(GenParamTreeItem& item)
 {
     GenParamFormat format;
     if (item.reading.state == GenParamState::Good) {
-        if (const auto fault = genApiFault([&] { format = formatOfParam(item.feature); })) {
+        if (const auto fault = genApiFault([&] { format = items.format(item); })) {
             item.reading.state = GenParamState::Failed;
             item.reading.value = GenParamValue();
             m_errors.readFailed(*item.feature.value, *fault);

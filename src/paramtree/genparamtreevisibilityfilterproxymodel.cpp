@@ -59,7 +59,7 @@ bool GenParamTreeVisibilityFilterProxyModel::filterAcceptsRow(int sourceRow,
 
 bool GenParamTreeVisibilityFilterProxyModel::accepts(GenApi::IValue& feature) const
 {
-    const auto& node = dynamic_cast<GenApi::INode&>(feature);
+    const auto& node = nodeOf(feature);
     if (node.GetVisibility() > m_visibility)
         return false;
     if (node.GetPrincipalInterfaceType() != GenApi::intfICategory && !m_namePattern.isEmpty() &&

@@ -52,7 +52,7 @@ QString integerText(GenParamKind kind, qint64 value, const QString& unit)
     case GenParamKind::MacAddress:
         return macText(static_cast<quint64>(value));
     default:
-        return QString::number(value) + unit;
+        return unit.isEmpty() ? QString::number(value) : QString(QString::number(value) + unit);
     }
 }
 
