@@ -13,6 +13,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QStyleOptionButton>
+#include <QTimer>
 
 #include <algorithm>
 #include <array>
@@ -46,6 +47,14 @@ void write(QAbstractItemModel& model, const QPersistentModelIndex& cell, const Q
 bool isCommandToRun(const QModelIndex& index)
 {
     return index.data(GenParamTreeModel::BusyRole).isValid() && (index.flags() & Qt::ItemIsEditable);
+}
+
+void tellComplaint(const QWidget& editor)
+{
+    const auto* paramEditor = dynamic_cast<const ParamEditor*>(&editor);
+    const QString complaint = paramEditor ? paramEditor->complaint() : QString();
+    if (!complaint.isNull())
+        CellNote::showBeside(editor.parentWidget(), editor.geometry(), complaint);
 }
 
 bool confirms(const QEvent& event)
@@ -84,8 +93,8 @@ void GenParamDelegate::setEditorData(QWidget* editor, const QModelIndex& index) 
         CellNote::showBeside(editor->parentWidget(), editor->geometry(),
                              tr("The feature cannot be changed at the moment."));
         // Not now: the view is in the middle of telling its editors.
-        QMetaObject::invokeMethod(const_cast<GenParamDelegate*>(this), "discard", Qt::QueuedConnection,
-                                  Q_ARG(QWidget*, editor));
+        auto* self = const_cast<GenParamDelegate*>(this);
+        QTimer::singleShot(0, editor, [self, editor] { emit self->closeEditor(editor, RevertModelCache); });
     } else if (!paramEditor->isBeingEdited()) {
         const QSignalBlocker quiet(editor); // what comes from the camera must not be written back
         paramEditor->fill(index);
@@ -156,21 +165,12 @@ bool GenParamDelegate::editorEvent(QEvent* event, QAbstractItemModel* model,
 /// Tells what is wrong with a text at the moment when it is confirmed, since it is not going to be committed.
 bool GenParamDelegate::eventFilter(QObject* editor, QEvent* event)
 {
-    const auto* paramEditor = confirms(*event) ? dynamic_cast<ParamEditor*>(editor) : nullptr;
-    const QString complaint = paramEditor ? paramEditor->complaint() : QString();
-    if (!complaint.isNull()) {
-        const auto* widget = static_cast<QWidget*>(editor);
-        CellNote::showBeside(widget->parentWidget(), widget->geometry(), complaint);
-    }
+    if (const auto* widget = qobject_cast<QWidget*>(editor); widget && confirms(*event))
+        tellComplaint(*widget);
     return QStyledItemDelegate::eventFilter(editor, event);
 }
 
 void GenParamDelegate::commitSender()
 {
     emit commitData(qobject_cast<QWidget*>(sender()));
-}
-
-void GenParamDelegate::discard(QWidget* editor)
-{
-    emit closeEditor(editor, RevertModelCache);
 }

@@ -33,5 +33,4 @@ public:
 
 private slots:
     void commitSender();
-    void discard(QWidget* editor);
 };

@@ -21,7 +21,7 @@ bool showsEnough(double value, double shown)
 QString FloatText::fromValue(double value, int decimals)
 {
     if (std::abs(value) < mostFixedDigits) {
-        const QString text = QString::number(value, 'f', qBound(0, decimals, 15));
+        QString text = QString::number(value, 'f', qBound(0, decimals, 15));
         if (showsEnough(value, text.toDouble()))
             return text;
     }
