@@ -36,10 +36,20 @@ void GenParamTreeVisibilityFilterProxyModel::setFilterText(const QString& text)
 int GenParamTreeVisibilityFilterProxyModel::rowCount(const QModelIndex& parent) const
 {
     // The base class makes a mapping for every row that it is asked about, a quarter of a kilobyte each, and
-    // drops them all when the filter changes. Features have no rows below them.
-    if (parent.isValid() && sourceModel()->rowCount(mapToSource(parent)) == 0)
-        return 0;
-    return QSortFilterProxyModel::rowCount(parent);
+    // drops them all when the filter changes.
+    return neverHasRows(parent) ? 0 : QSortFilterProxyModel::rowCount(parent);
+}
+
+Qt::ItemFlags GenParamTreeVisibilityFilterProxyModel::flags(const QModelIndex& index) const
+{
+    // A view that expands everything takes down each row that might have others below it.
+    const Qt::ItemFlags flags = QSortFilterProxyModel::flags(index);
+    return index.column() == 0 && neverHasRows(index) ? flags | Qt::ItemNeverHasChildren : flags;
+}
+
+bool GenParamTreeVisibilityFilterProxyModel::neverHasRows(const QModelIndex& index) const
+{
+    return index.isValid() && sourceModel()->rowCount(mapToSource(index)) == 0;
 }
 
 void GenParamTreeVisibilityFilterProxyModel::filterAgain()

@@ -33,6 +33,8 @@ public:
     int filterVisibility() const { return m_visibility; }
 
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;
+    /// Names the rows that never have others below them, beside the flags of the source model.
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
 
 public slots:
     /// The highest GenApi visibility that is shown: 0 beginner, 1 expert, 2 guru.
@@ -44,6 +46,8 @@ protected:
     bool filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const override;
 
 private:
+    /// Whether the source model has no rows below \a index, which holds as long as that model.
+    bool neverHasRows(const QModelIndex& index) const;
     void filterAgain();
     bool accepts(GenApi::IValue& feature) const;
     bool matchesName(const QString& displayName) const;
