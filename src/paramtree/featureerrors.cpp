@@ -1,7 +1,6 @@
 #include "featureerrors.h"
 
 #include <QMap>
-#include <QStringList>
 
 void FeatureErrors::add(const QString& feature, const QString& error)
 {
@@ -19,5 +18,8 @@ QString FeatureErrors::text() const
     for (auto error = m_errors.cbegin(); error != m_errors.cend(); ++error)
         lines.insert(error->id,
                      tr("{%1}{id:%3}: %2 \n").arg(error.key(), error->text, QString::number(error->id)));
-    return QStringList(lines.values()).join(QString());
+    QString all;
+    for (const QString& line : qAsConst(lines))
+        all += line;
+    return all;
 }
