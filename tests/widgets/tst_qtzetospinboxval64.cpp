@@ -289,7 +289,8 @@ void TestQtZetoSpinBoxVal64::followsThePerson_data()
     row("prefix and suffix cannot be selected", "prefix=x= suffix=mm value=7", "value:42 Tab ? Ctrl+A ? '5",
         "42 \"x=42mm\" [42] [42] 5 \"x=5mm\" |x=5mm");
     row("the cursor stays in the number", "prefix=x= suffix=mm maximum=999 select=off",
-        "value:42 Tab Left Home '1 End Right Backspace", "42 \"x=42mm\" 142 \"x=142mm\" 14 \"x=14mm\" |x=14mm");
+        "value:42 Tab Left Home '1 End Right Backspace",
+        "42 \"x=42mm\" 142 \"x=142mm\" 14 \"x=14mm\" |x=14mm");
     row("a prefix not shown yet", "prefix=abcdef", "Tab Home End ? '5", "[] |abcdef0");
     row("clearing the field keeps the prefix", "prefix=x= tracking=off",
         "value:42 Tab Backspace Backspace '7 Return", "42 \"x=42\" 7 \"x=7\" |x=7");
