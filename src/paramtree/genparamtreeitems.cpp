@@ -120,7 +120,7 @@ GenParamFormat GenParamTreeItems::format(GenParamTreeItem& item)
 {
     if (item.isFormatKnown)
         return {m_units[item.unit], item.decimals};
-    const GenParamFormat format = formatOfParam(item.feature);
+    GenParamFormat format = formatOfParam(item.feature);
     const size_t unit = unitNumber(format.unit);
     item.unit = static_cast<quint8>(unit);
     item.decimals = static_cast<quint8>(qBound(qint64{0}, format.decimals, qint64{255}));
