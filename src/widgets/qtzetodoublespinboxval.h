@@ -17,7 +17,7 @@ public:
     explicit QtZetoDoubleSpinBoxVal(QWidget* parent = nullptr);
 
 public slots:
-    /// Limited to the range and rounded to the decimals. Setting the present value leaves text that is being
-    /// typed alone.
+    /// Limited to the range and rounded to the decimals; a \a value that is not finite is ignored. Setting
+    /// the present value leaves text that is being typed alone.
     void setValue(double value);
 };

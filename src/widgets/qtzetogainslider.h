@@ -54,7 +54,8 @@ signals:
     void rangeChanged(double min, double max);
 
 public slots:
-    /// Limited to the range. Setting the present value leaves text that is being typed alone.
+    /// Limited to the range; a \a value that is not finite is ignored. Setting the present value leaves text
+    /// that is being typed alone.
     void setValue(double value);
     /// A \a max below \a min counts as \a min. A value out of the new range moves to its nearer end.
     void setRange(double min, double max);

@@ -7,11 +7,12 @@
 #include <QValidator>
 
 #include <algorithm>
+#include <cmath>
 #include <type_traits>
 #include <utility>
 
 /// What the integer and the double spin box add to Qt's: values on a step grid and typed text that waits for
-/// Enter. \a Base is QSpinBox or QDoubleSpinBox. Stepping does not wrap around.
+/// Enter. \a Base is QSpinBox or QDoubleSpinBox.
 template <typename Base>
 class SnappingSpinBox : public Base
 {
@@ -34,18 +35,16 @@ public:
 
     void stepBy(int steps) override
     {
-        const Value start = valueToStepFrom();
-        const Value beyond = (steps > 0) == (Base::singleStep() > 0) ? Base::maximum() : Base::minimum();
-        const Value target = StepGrid::stepped<Value>(start, Base::singleStep(), steps).value_or(beyond);
-        Base::setValue(snapped(std::clamp(target, Base::minimum(), Base::maximum())));
+        Base::setValue(snapped(stepped(valueToStepFrom(), steps)));
         Base::selectAll();
     }
 
 protected:
-    /// As Base::setValue(), but text that is being typed survives a value that is not news.
+    /// As Base::setValue(), but text that is being typed survives a value that is not news, and what is no
+    /// finite number is ignored: Base would take it for its maximum.
     void setChangedValue(Value value)
     {
-        if (value != Base::value())
+        if (isFinite(value) && value != Base::value())
             Base::setValue(value);
     }
 
@@ -74,6 +73,25 @@ protected:
     }
 
 private:
+    static bool isFinite(Value value)
+    {
+        if constexpr (std::is_floating_point_v<Value>)
+            return std::isfinite(value);
+        else
+            return true;
+    }
+
+    /// Limited to the range or wrapped around it.
+    Value stepped(Value start, int steps) const
+    {
+        const Value step = Base::singleStep();
+        if (Base::wrapping())
+            return StepGrid::steppedAround<Value>(start, step, steps, Base::minimum(), Base::maximum());
+        const Value beyond = (steps > 0) == (step > 0) ? Base::maximum() : Base::minimum();
+        const Value target = StepGrid::stepped<Value>(start, step, steps).value_or(beyond);
+        return std::clamp(target, Base::minimum(), Base::maximum());
+    }
+
     Value snapped(Value value) const
     {
         return m_snapToStep
@@ -100,7 +118,7 @@ private:
             typed = Base::locale().toInt(text, &isNumber);
         else
             typed = Base::locale().toDouble(text, &isNumber);
-        Base::setValue(isNumber ? snapped(typed) : Base::value());
+        Base::setValue(isNumber && isFinite(typed) ? snapped(typed) : Base::value());
         Base::selectAll();
         emit Base::editingFinished();
     }

@@ -22,12 +22,13 @@ private slots:
 
 void TestQtZetoSpinBoxVal::integers_data()
 {
-    // 10 in [0, 99], step 4. s: snaps, e: Enter only, t: no keyboard tracking. At last the text
+    // 10 in [0, 99], step 4. s: snaps, e: Enter only, t: no keyboard tracking, w: wraps. At last the text
     addScripts({
         {"steps", "", "Up Up Down", "value 14, value 18, value 14, text 14"},
         {"steps on the grid", "s", "Up Up Down", "value 16, value 20, value 16, text 16"},
         {"steps to the ends", "s", "PgUp PgUp PgUp PgDown",
          "value 52, value 92, value 99, value 60, text 60"},
+        {"wraps around the range", "sw", "PgDown Up Up", "value 99, value 0, value 4, text 4"},
         {"wheel", "s", "wheel+", "value 16, text 16"},
         {"typing", "", "type:42", "value 4, value 42, text 42"},
         {"typing is not snapped", "s", "type:42", "value 4, value 42, text 42"},
@@ -56,6 +57,7 @@ void TestQtZetoSpinBoxVal::integers()
     box.setSnapToStep(setup.contains(QLatin1Char('s')));
     box.setAcceptWhileTyping(!setup.contains(QLatin1Char('e')));
     box.setKeyboardTracking(!setup.contains(QLatin1Char('t')));
+    box.setWrapping(setup.contains(QLatin1Char('w')));
     QWidget other(&window);
     other.setFocusPolicy(Qt::StrongFocus);
     QVERIFY(showActive(&window));
@@ -126,6 +128,9 @@ void TestQtZetoSpinBoxVal::holdsForAnyRange()
     gain.setRange(-huge, huge);
     gain.setSingleStep(huge);
     gain.setValue(0.0);
+    gain.setValue(std::numeric_limits<double>::quiet_NaN());
+    gain.setValue(std::numeric_limits<double>::infinity());
+    QCOMPARE(gain.value(), 0.0);
     gain.stepBy(2);
     QCOMPARE(gain.value(), huge);
 }
