@@ -3,6 +3,7 @@
 #include "labelledslider.h"
 
 #include <algorithm>
+#include <cmath>
 
 /// The one implementation behind QtZetoSlider and QtZetoDoubleSlider: keeps a value beside the positions of a
 /// slider and tells each change once. \a Scale says which position stands for which value.
@@ -36,6 +37,7 @@ private:
     void showValue();
     void pick(int position, int direction);
     void take(Value value, Handle handle);
+    void takeRequest(const QVariant& wanted);
     Value bounded(Value value) const { return std::clamp(value, m_scale.minimum, m_scale.maximum); }
     ValueSlider::Reading reading() const;
 
@@ -60,8 +62,7 @@ SliderCore<Slider, Scale>::SliderCore(Slider& owner)
         showValue(); // the handle may have been left between two values
         emit m_owner.sliderReleased();
     });
-    connect(slider, &ValueSlider::valueRequested, this,
-            [this](const QVariant& wanted) { m_owner.setValue(wanted.value<Value>()); });
+    connect(slider, &ValueSlider::valueRequested, this, &SliderCore::takeRequest);
     showScale();
 }
 
@@ -126,4 +127,15 @@ void SliderCore<Slider, Scale>::take(Value value, Handle handle)
         m_view->setReading(reading());
     if (changed)
         emit m_owner.valueChanged(m_value);
+}
+
+/// Limited before it is converted, since a request may be beyond what the type holds.
+template <typename Slider, typename Scale>
+void SliderCore<Slider, Scale>::takeRequest(const QVariant& wanted)
+{
+    bool isNumber = false;
+    const double number = wanted.toDouble(&isNumber);
+    if (isNumber && !std::isnan(number))
+        m_owner.setValue(
+            QVariant(std::clamp<double>(number, m_scale.minimum, m_scale.maximum)).value<Value>());
 }
