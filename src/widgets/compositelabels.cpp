@@ -108,6 +108,9 @@ QString CompositeLabels::nameOfComposite() const
 void CompositeLabels::nameParts()
 {
     const QString name = nameOfComposite();
-    for (QWidget* const part : qAsConst(m_parts))
-        part->setAccessibleName(name);
+    for (QWidget* const part : qAsConst(m_parts)) {
+        if (part->accessibleName() == m_givenName)
+            part->setAccessibleName(name);
+    }
+    m_givenName = name;
 }

@@ -22,9 +22,9 @@ public:
     QString upper() const;
     void setUpper(const QString& text);
 
-    /// Gives every part without a name the composite's: its accessible name or else a label's text, its own
-    /// or that of a label beside the composite. To be called when the composite is shown, since that label
-    /// may come late.
+    /// Gives every part without a name of its own the composite's: its accessible name or else a label's
+    /// text, its own or that of a label beside the composite. To be called when the composite is shown, since
+    /// that label may come late.
     void nameParts();
 
 private:
@@ -37,6 +37,7 @@ private:
     QBoxLayout* m_upperRow;
     int m_upperIndex;
     QVector<QWidget*> m_parts;
+    QString m_givenName;
     QLabel* m_left = nullptr;
     QLabel* m_upper = nullptr;
 };

@@ -312,6 +312,7 @@ void TestQtZetoComposites::labelsComeAndGo()
     const int bareHeight = composite.sizeHint().height();
     auto* const outer = new QLabel(QStringLiteral("&Period [us]:"), &window);
     outer->setBuddy(&composite);
+    composite.button()->setAccessibleName(QStringLiteral("Open"));
     QVERIFY(showActive(&window));
     QCOMPARE(composite.spinBox()->accessibleName(), QStringLiteral("Period [us]"));
     QCOMPARE(composite.slider()->slider()->accessibleName(), QStringLiteral("Period [us]"));
@@ -321,7 +322,8 @@ void TestQtZetoComposites::labelsComeAndGo()
     auto* const left = composite.findChild<QLabel*>(QStringLiteral("labelLeft"));
     auto* const upper = composite.findChild<QLabel*>(QStringLiteral("labelUpper"));
     QCOMPARE(left->buddy(), composite.spinBox());
-    QCOMPARE(composite.button()->accessibleName(), QStringLiteral("Width"));
+    QCOMPARE(composite.spinBox()->accessibleName(), QStringLiteral("Width"));
+    QCOMPARE(composite.button()->accessibleName(), QStringLiteral("Open"));
     QTRY_VERIFY(left->isVisible() && left->x() < composite.spinBox()->x());
     QTRY_VERIFY(upper->isVisible() && upper->y() < composite.spinBox()->y());
     QTRY_VERIFY(qAbs(upper->geometry().center().x() - composite.rect().center().x()) <= 1);
