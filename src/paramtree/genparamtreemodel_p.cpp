@@ -25,8 +25,9 @@ bool insist(Call call)
 bool isPlaceholder(const GenParamTreeItem& item, const QVariant& value)
 {
     const GenParamState state = item.reading.state;
+    // A text only: compared as variants, true equals every text.
     return state != GenParamState::Unread && state != GenParamState::Good &&
-           value == editValue(item.feature.kind, item.reading);
+           value.userType() == QMetaType::QString && value == editValue(item.feature.kind, item.reading);
 }
 
 } // namespace

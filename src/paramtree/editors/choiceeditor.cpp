@@ -59,7 +59,9 @@ void ChoiceEditor::add(const VariantData& choice)
 int ChoiceEditor::indexOf(const QVariant& editValue) const
 {
     for (int i = 0; i < count(); ++i) {
-        if (itemData(i).value<VariantData>().editValue == editValue)
+        // Of the same type, too: any text that stands for want of a value would equal true.
+        const QVariant choice = itemData(i).value<VariantData>().editValue;
+        if (choice.userType() == editValue.userType() && choice == editValue)
             return i;
     }
     return -1;
