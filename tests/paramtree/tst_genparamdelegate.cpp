@@ -48,6 +48,7 @@ std::unique_ptr<NodeMap> everyFeature()
     b.floating("Wide").in("Root").value(1.5e300);
     b.floating("Rate").in("Root").notation(GenApi::fnFixed, 1).validValues({12.5, 25}).value(25);
     b.boolean("Flag").in("Root").value(false);
+    b.boolean("Arm").in("Root").access(GenApi::WO).value(false);
     b.enumeration("Mode")
         .in("Root")
         .entry(Entry("Off", 0).displayName("Switched off"))
@@ -227,6 +228,7 @@ void TestGenParamDelegate::editsEveryType_data()
     row("Rate", "25.0{12.5,25.0}", "Up Return", "12.5");
     row("Flag", "False{False,True}", "Down Return", "1");
     row("Flag", "False{False,True}", "'t Escape", "1"); // committed at once
+    row("Arm", "{False,True}", "'t Escape", "1");
     row("Mode", "Switched off{Switched off,Later*,On}", "Down Return", "On");
     row("Mode", "Switched off{Switched off,Later*,On}", "Tab", "Off", 0);
     row("Label", "\"cam\"", "'123456789 Return", "12345");
@@ -353,7 +355,14 @@ void TestGenParamDelegate::keepsWhatIsTypedThroughChanges()
 {
     Desk desk;
     QVERIFY(QTest::qWaitForWindowActive(&desk.view));
-    QWidget* editor = desk.open("Width");
+    // An attempt to confirm what is not complete yet does not give it up.
+    QWidget* editor = desk.open("GevPersistentIPAddress");
+    pressKeys(QStringLiteral("'10.0.0 Return"));
+    desk.map->assign("GevPersistentIPAddress", int64_t{1});
+    QCOMPARE(describe(editor), QStringLiteral("\"10.0.0\""));
+    pressKeys(QStringLiteral("Escape"));
+
+    editor = desk.open("Width");
     pressKeys(QStringLiteral("'12"));
     desk.map->assign("Whole", int64_t{4});
     desk.map->assign("Width", int64_t{100});

@@ -11,7 +11,7 @@ public:
     TextEditor();
 
     void fill(const QModelIndex& index) final;
-    bool isBeingEdited() const final { return isModified(); }
+    bool isBeingEdited() const final { return m_isTyped; }
     QVariant takeEdit() final;
     QString complaint() const final;
 
@@ -21,4 +21,7 @@ protected:
     /// \a text, which is acceptable, as the model's setData() takes it.
     virtual QVariant toValue(const QString& text) const = 0;
     virtual QString complaintAbout(const QString& text) const = 0;
+
+private:
+    bool m_isTyped = false; ///< not isModified(), which the attempt to fix a wrong text up resets
 };
