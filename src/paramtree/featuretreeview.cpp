@@ -75,6 +75,20 @@ void FeatureTreeView::contextMenuEvent(QContextMenuEvent* event)
     menu->popup(menuPosition(*event));
 }
 
+bool FeatureTreeView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event)
+{
+    if (state() != EditingState)
+        m_editedCell = index;
+    return QTreeView::edit(index, trigger, event);
+}
+
+void FeatureTreeView::updateEditorGeometries()
+{
+    QTreeView::updateEditorGeometries();
+    if (state() == EditingState && !isPersistentEditorOpen(m_editedCell))
+        setState(NoState);
+}
+
 template <typename Slot>
 QAction* FeatureTreeView::addRowAction(const QString& text, const QList<QKeySequence>& shortcuts, Slot slot)
 {

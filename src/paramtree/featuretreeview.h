@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPersistentModelIndex>
 #include <QTreeView>
 
 /// The tree of names (column 0) and values (column 1): editing and copying from keyboard and context menu.
@@ -27,6 +28,12 @@ protected:
     void drawBranches(QPainter* painter, const QRect& rect, const QModelIndex& index) const override;
     void contextMenuEvent(QContextMenuEvent* event) override;
 
+    using QTreeView::edit;
+    bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
+    /// Also ends the editing of a row that a filter has taken away: the base class, left in the editing state
+    /// without an editor, would open no other.
+    void updateEditorGeometries() override;
+
 private:
     template <typename Slot>
     QAction* addRowAction(const QString& text, const QList<QKeySequence>& shortcuts, Slot slot);
@@ -34,4 +41,5 @@ private:
     QString currentText(int column) const;
 
     QAction* m_edit = nullptr;
+    QPersistentModelIndex m_editedCell; // the last one
 };

@@ -1,5 +1,6 @@
 #include "browserfixture.h"
 
+#include "handsonkeys.h"
 #include "testmain.h"
 
 #include <QCheckBox>
@@ -74,6 +75,7 @@ private slots:
     void showsTheFilterOptionsInForce();
     void copies();
     void editsByKeyboard();
+    void editsAgainAfterAnEditorWasFilteredAway();
     void leavesTheHostWindowOpenOnEscape();
     void describesTheCurrentFeature();
     void listsErrorsWhileTheyLast();
@@ -322,6 +324,24 @@ void TestZetoGenParamTreeView::editsByKeyboard()
     QTest::keyClicks(editor, QStringLiteral("17"));
     QTest::keyClick(editor, Qt::Key_Return);
     QTRY_COMPARE(browser.camera->integer("Gain"), 17);
+}
+
+void TestZetoGenParamTreeView::editsAgainAfterAnEditorWasFilteredAway()
+{
+    Browser browser;
+    browser.view.setVisibility(ZetoGui::Expert);
+    browser.tree().expandAll();
+    browser.tree().setCurrentIndex(rowOf(browser.view, QStringLiteral("PacketSize"), 1));
+    browser.tree().setFocus();
+    pressKeys(QStringLiteral("F2 '7"));
+    QVERIFY(QApplication::focusWidget() != &browser.tree());
+    browser.view.setVisibility(ZetoGui::Basic);
+    QCoreApplication::processEvents();
+    browser.tree().setCurrentIndex(rowOf(browser.view, QStringLiteral("Gain"), 1));
+    browser.tree().setFocus();
+    pressKeys(QStringLiteral("F2 '4 Return"));
+    QTRY_COMPARE(browser.camera->text("Gain"), std::string("4"));
+    QCOMPARE(browser.camera->text("PacketSize"), std::string("1500"));
 }
 
 void TestZetoGenParamTreeView::leavesTheHostWindowOpenOnEscape()
