@@ -73,12 +73,9 @@ void GenParamTreeModelPrivate::detach()
 {
     if (!m_nodeMap)
         return;
-    GenApi::CLock* lock = nullptr;
-    insist([&] { lock = &m_nodeMap->GetLock(); });
     // Callbacks run inside this lock: when we have it, none of them is under way.
     std::optional<GenApi::AutoLock> locked;
-    if (lock)
-        locked.emplace(*lock);
+    insist([&] { locked.emplace(m_nodeMap->GetLock()); });
     m_isAttached = false;
     m_nodeMap = nullptr;
     m_commands.clear();
@@ -230,7 +227,7 @@ QVariant GenParamTreeModelPrivate::control(GenParamTreeItem& item)
     ensureRead(item);
     if (!GenApi::IsWritable(accessMode(item)))
         return QVariant();
-    return QVariant::fromValue(prepareEditor(item.feature));
+    return QVariant::fromValue(prepareEditor(item.feature, item.reading.state == GenParamState::Good));
 }
 
 QVariant GenParamTreeModelPrivate::busyData(GenParamTreeItem& item)

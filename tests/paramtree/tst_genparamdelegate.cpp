@@ -179,6 +179,7 @@ private slots:
     void givesUpWhenTheFeatureBecomesReadOnly();
     void outlivesItsNodeMap();
     void survivesEveryFault();
+    void startsEmptyWithoutAValue();
     void fallsBackToTheStandardEditor();
 };
 
@@ -451,6 +452,19 @@ void TestGenParamDelegate::survivesEveryFault()
         desk.model->refresh(0, {desk.proxy.mapToSource(desk.cell(feature))});
         QVERIFY2(desk.cell(feature).data().toString() != QLatin1String("ERROR"), feature);
     }
+}
+
+void TestGenParamDelegate::startsEmptyWithoutAValue()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowActive(&desk.view));
+    desk.faults->setFilter([](const char* call, const GenApi::INode* node) {
+        return qstrcmp(call, "GetValue") == 0 && node && node->GetName() == "Label";
+    });
+    desk.faults->throwAt(0, FaultInjector::allFaults().front());
+    desk.model->refresh(0, {desk.proxy.mapToSource(desk.cell("Label"))});
+    QCOMPARE(desk.cell("Label").data().toString(), QStringLiteral("ERROR"));
+    QCOMPARE(describe(desk.open("Label")), QStringLiteral("\"\""));
 }
 
 void TestGenParamDelegate::fallsBackToTheStandardEditor()

@@ -60,11 +60,10 @@ ControlData floatControl(GenApi::IFloat& node, const GenParamFormat& format)
     return control<FloatEditor>(ControlData::Float, limits, static_cast<int>(format.decimals), format.unit);
 }
 
-ControlData stringControl(GenApi::IString& node)
+ControlData stringControl(GenApi::IString& node, bool hasValue)
 {
     const auto maximumBytes = genApiOr(qint64{0}, [&] { return qint64{node.GetMaxLength()}; });
-    const bool isReadable = genApiOr(false, [&] { return GenApi::IsReadable(&node); });
-    return control<StringEditor>(ControlData::Text, maximumBytes, isReadable);
+    return control<StringEditor>(ControlData::Text, maximumBytes, hasValue);
 }
 
 ControlData booleanControl()
@@ -99,7 +98,7 @@ ControlData enumerationControl(GenApi::IEnumeration& node)
 
 } // namespace
 
-ControlData prepareEditor(const GenParamFeature& feature)
+ControlData prepareEditor(const GenParamFeature& feature, bool hasValue)
 {
     const auto format = genApiOr(GenParamFormat(), [&] { return formatOfParam(feature); });
     return genApiOr(ControlData(), [&] {
@@ -118,7 +117,7 @@ ControlData prepareEditor(const GenParamFeature& feature)
         case GenParamKind::Float:
             return floatControl(*feature.real, format);
         case GenParamKind::String:
-            return stringControl(*feature.string);
+            return stringControl(*feature.string, hasValue);
         case GenParamKind::Enumeration:
             return enumerationControl(*feature.enumeration);
         default:

@@ -24,8 +24,8 @@ private:
 
 } // namespace
 
-StringEditor::StringEditor(qint64 maximumBytes, bool isReadable)
-    : m_isReadable(isReadable)
+StringEditor::StringEditor(qint64 maximumBytes, bool hasValue)
+    : m_hasValue(hasValue)
 {
     if (maximumBytes > 0)
         setValidator(new ByteLengthValidator(maximumBytes, this));
@@ -33,7 +33,7 @@ StringEditor::StringEditor(qint64 maximumBytes, bool isReadable)
 
 QString StringEditor::toText(const QVariant& editValue) const
 {
-    return m_isReadable ? editValue.toString() : QString();
+    return m_hasValue ? editValue.toString() : QString();
 }
 
 QVariant StringEditor::toValue(const QString& text) const

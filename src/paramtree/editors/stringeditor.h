@@ -2,14 +2,14 @@
 
 #include "texteditor.h"
 
-/// Edits a string. One that cannot be read is started from an empty text.
+/// Edits a string. One that could not be read is started from an empty text.
 class StringEditor : public TextEditor
 {
     Q_OBJECT
 
 public:
     /// \a maximumBytes counts in UTF-8; 0 is no limit.
-    StringEditor(qint64 maximumBytes, bool isReadable);
+    StringEditor(qint64 maximumBytes, bool hasValue);
 
 protected:
     QString toText(const QVariant& editValue) const override;
@@ -17,5 +17,5 @@ protected:
     QString complaintAbout(const QString& text) const override;
 
 private:
-    const bool m_isReadable;
+    const bool m_hasValue;
 };
