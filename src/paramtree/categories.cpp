@@ -30,6 +30,6 @@ bool isCategory(const QModelIndex& index)
 {
     auto* const feature = index.data(GenParamTreeModel::FeatureRole).value<GenApi::IValue*>();
     return feature && genApiOr(false, [feature] {
-               return feature->GetNode()->GetPrincipalInterfaceType() == GenApi::intfICategory;
+               return nodeOf(*feature).GetPrincipalInterfaceType() == GenApi::intfICategory;
            });
 }
