@@ -34,9 +34,10 @@ QString text(const GenICam::gcstring& bytes)
     return QString::fromUtf8(bytes.c_str(), static_cast<int>(bytes.length()));
 }
 
-void ignoreChange(GenApi::INode*)
+struct Listener
 {
-}
+    void ignoreChange(GenApi::INode* /*node*/) {}
+};
 
 } // namespace
 
@@ -52,13 +53,14 @@ std::vector<GenApi::IValue*> featuresOf(const GenApi::INodeMap& nodeMap)
 
 std::vector<GenApi::CallbackHandleType> walkAndRegister(const GenApi::INodeMap& nodeMap)
 {
+    static Listener listener;
     std::vector<GenApi::CallbackHandleType> handles;
     visitFeatures(nodeMap, [&](GenApi::IValue& feature) {
         GenApi::INode* node = feature.GetNode();
         benchmark::DoNotOptimize(node->GetName());
         benchmark::DoNotOptimize(node->GetVisibility());
         benchmark::DoNotOptimize(node->GetAccessMode());
-        handles.push_back(GenApi::Register(node, &ignoreChange));
+        handles.push_back(GenApi::Register(node, listener, &Listener::ignoreChange));
     });
     return handles;
 }
@@ -87,10 +89,15 @@ bool readValue(GenApi::IValue& feature)
 QString valueText(GenApi::IValue& feature)
 {
     switch (feature.GetNode()->GetPrincipalInterfaceType()) {
-    case GenApi::intfIInteger:
-        return QString::number(dynamic_cast<GenApi::IInteger&>(feature).GetValue());
-    case GenApi::intfIFloat:
-        return QString::number(dynamic_cast<GenApi::IFloat&>(feature).GetValue(), 'f', 6);
+    case GenApi::intfIInteger: {
+        auto& node = dynamic_cast<GenApi::IInteger&>(feature);
+        return QString::number(node.GetValue()) + text(node.GetUnit());
+    }
+    case GenApi::intfIFloat: {
+        auto& node = dynamic_cast<GenApi::IFloat&>(feature);
+        const auto decimals = static_cast<int>(node.GetDisplayPrecision());
+        return QString::number(node.GetValue(), 'f', decimals) + text(node.GetUnit());
+    }
     case GenApi::intfIBoolean:
         return dynamic_cast<GenApi::IBoolean&>(feature).GetValue() ? QStringLiteral("True")
                                                                    : QStringLiteral("False");

@@ -12,7 +12,7 @@
 std::vector<GenApi::IValue*> featuresOf(const GenApi::INodeMap& nodeMap);
 
 /// Asks every feature below Root, categories included, for name, visibility and access mode and registers a
-/// callback that does nothing.
+/// member function as callback that does nothing.
 /// \return the callbacks' handles, to be given to GenApi::Deregister()
 std::vector<GenApi::CallbackHandleType> walkAndRegister(const GenApi::INodeMap& nodeMap);
 
@@ -20,7 +20,7 @@ std::vector<GenApi::CallbackHandleType> walkAndRegister(const GenApi::INodeMap& 
 /// \return false for a feature that has no readable value, such as a command
 bool readValue(GenApi::IValue& feature);
 
-/// Reads the value and makes a text of it.
+/// Reads the value and makes a text of it, with the unit and the precision of a number.
 QString valueText(GenApi::IValue& feature);
 
 /// Tests every feature below Root as the filter does: visibility, kind, display name, implementation.

@@ -12,7 +12,7 @@ namespace {
 constexpr size_t maxRows = 200000;
 
 /// As many as an item can number. The unit of a feature beyond them is asked each time.
-constexpr size_t maxUnits = 256;
+constexpr size_t maxUnits = GenParamTreeItem::unknownUnit;
 
 struct OrderByFeature
 {
@@ -99,7 +99,6 @@ void GenParamTreeItems::addCategory(Build& build, GenApi::IValue& category, GenP
     for (qint32 row = 0; row < count; ++row) {
         rows[row].feature.value = members[static_cast<size_t>(row)];
         rows[row].parent = parent;
-        rows[row].row = row;
         addRow(build, rows[row]);
     }
 }
@@ -118,13 +117,13 @@ void GenParamTreeItems::addRow(Build& build, GenParamTreeItem& item)
 
 GenParamFormat GenParamTreeItems::format(GenParamTreeItem& item)
 {
-    if (item.isFormatKnown)
+    if (item.unit != GenParamTreeItem::unknownUnit)
         return {m_units[item.unit], item.decimals};
     GenParamFormat format = formatOfParam(item.feature);
-    const size_t unit = unitNumber(format.unit);
-    item.unit = static_cast<quint8>(unit);
-    item.decimals = static_cast<quint8>(qBound(qint64{0}, format.decimals, qint64{255}));
-    item.isFormatKnown = unit < maxUnits && item.feature.kind != GenParamKind::Unknown;
+    if (item.feature.kind != GenParamKind::Unknown) {
+        item.unit = static_cast<quint8>(unitNumber(format.unit));
+        item.decimals = static_cast<quint8>(qBound(qint64{0}, format.decimals, qint64{255}));
+    }
     return format;
 }
 
@@ -156,6 +155,11 @@ void GenParamTreeItems::sortByFeature()
             m_byFeature[i]->isRepeated = m_byFeature[i - 1]->isRepeated = true;
     m_byFeature.shrink_to_fit();
     m_blocks.shrink_to_fit();
+}
+
+int GenParamTreeItems::rowOf(const GenParamTreeItem& item) const
+{
+    return static_cast<int>(&item - (item.parent ? item.parent->children : m_root));
 }
 
 GenParamTreeItems::Range GenParamTreeItems::rowsOf(const GenApi::IValue* feature) const

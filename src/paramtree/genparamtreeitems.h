@@ -29,6 +29,8 @@ public:
     /// The rows at the top level.
     GenParamTreeItem* root() const { return m_root; }
     int rootCount() const { return m_rootCount; }
+    /// The row of \a item below its parent.
+    int rowOf(const GenParamTreeItem& item) const;
 
     /// All rows of \a feature in the order of the tree.
     Range rowsOf(const GenApi::IValue* feature) const;

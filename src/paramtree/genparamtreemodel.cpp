@@ -104,7 +104,7 @@ QModelIndex GenParamTreeModel::index(int row, int column, const QModelIndex& par
 QModelIndex GenParamTreeModel::parent(const QModelIndex& child) const
 {
     GenParamTreeItem* parent = child.isValid() ? itemOf(child)->parent : nullptr;
-    return parent ? createIndex(parent->row, 0, parent) : QModelIndex();
+    return parent ? createIndex(d_ptr->items.rowOf(*parent), 0, parent) : QModelIndex();
 }
 
 int GenParamTreeModel::rowCount(const QModelIndex& parent) const

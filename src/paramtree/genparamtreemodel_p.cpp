@@ -166,7 +166,7 @@ void GenParamTreeModelPrivate::emitDataChanged(const GenParamTreeItem& item)
     for (GenParamTreeItem* row : rows) {
         if (!m_isAttached)
             return; // given up by a receiver of the signal
-        const QModelIndex index = q_ptr->createIndex(row->row, GenParamTreeModel::ValueColumn, row);
+        const QModelIndex index = q_ptr->createIndex(items.rowOf(*row), GenParamTreeModel::ValueColumn, row);
         emit q_ptr->dataChanged(index, index);
     }
 }

@@ -4,8 +4,11 @@
 #include "genapiguard.h"
 
 #include <QCoreApplication>
+#include <QStringBuilder>
 
+#include <charconv>
 #include <cmath>
+#include <iterator>
 
 namespace {
 
@@ -42,6 +45,15 @@ bool sameValue(const GenParamValue& a, const GenParamValue& b)
     return a == b || (x && y && std::isnan(*x) && std::isnan(*y));
 }
 
+/// In one allocation: the texts of many integers are made in a row.
+QString decimalText(qint64 value, const QString& unit)
+{
+    char digits[20]; // of any value with its sign
+    const char* const end = std::to_chars(std::begin(digits), std::end(digits), value).ptr;
+    const QLatin1String text(digits, static_cast<int>(end - digits));
+    return unit.isEmpty() ? QString(text) : QString(text % unit);
+}
+
 QString integerText(GenParamKind kind, qint64 value, const QString& unit)
 {
     switch (kind) {
@@ -52,8 +64,16 @@ QString integerText(GenParamKind kind, qint64 value, const QString& unit)
     case GenParamKind::MacAddress:
         return macText(static_cast<quint64>(value));
     default:
-        return unit.isEmpty() ? QString::number(value) : QString(QString::number(value) + unit);
+        return decimalText(value, unit);
     }
+}
+
+QString floatText(double value, const GenParamFormat& format)
+{
+    // More digits than a double has, and still a text that fits a cell.
+    const int decimals = static_cast<int>(qBound(qint64{0}, format.decimals, qint64{40}));
+    const QString text = QString::number(value, 'f', decimals);
+    return format.unit.isEmpty() ? text : QString(text % format.unit);
 }
 
 /// The text that stands where there is no value; null when there is one.
@@ -107,11 +127,8 @@ QString valueText(GenParamKind kind, const GenParamValue& value, const GenParamF
 {
     if (const auto* integer = std::get_if<qint64>(&value))
         return integerText(kind, *integer, format.unit);
-    if (const auto* real = std::get_if<double>(&value)) {
-        // More digits than a double has, and still a text that fits a cell.
-        const int decimals = static_cast<int>(qBound(qint64{0}, format.decimals, qint64{40}));
-        return QString::number(*real, 'f', decimals) + format.unit;
-    }
+    if (const auto* real = std::get_if<double>(&value))
+        return floatText(*real, format);
     if (const auto* boolean = std::get_if<bool>(&value))
         return *boolean ? Texts::tr("True") : Texts::tr("False");
     const auto* text = std::get_if<QString>(&value);
