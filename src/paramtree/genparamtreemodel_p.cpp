@@ -161,6 +161,8 @@ void GenParamTreeModelPrivate::report(GenParamTreeItem& item, bool compare)
 
 void GenParamTreeModelPrivate::emitDataChanged(const GenParamTreeItem& item)
 {
+    if (!m_isAttached)
+        return; // given up by a receiver of an error's signal, and the item with it
     const auto range = items.rowsOf(item.feature.value);
     const std::vector<GenParamTreeItem*> rows(range.begin(), range.end());
     for (GenParamTreeItem* row : rows) {

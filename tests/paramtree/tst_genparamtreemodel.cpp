@@ -404,6 +404,19 @@ void TestGenParamTreeModel::givesUpTheNodeMap()
     map.reset();
     model.refresh(100, {});
     model.detach();
+
+    // Also from within the report of an error.
+    const auto other = camera();
+    GenParamTreeModel failing(other.get());
+    const QModelIndex cell = valueCell(failing, QStringLiteral("Width"));
+    cell.data();
+    connect(&failing, &GenParamTreeModel::errorAppeared, &failing, [&failing] { failing.detach(); });
+    other->setAccessHook([](const char* call, const GenApi::INode*) {
+        if (qstrcmp(call, "GetValue") == 0)
+            refuse();
+    });
+    failing.refresh(0, {cell});
+    QCOMPARE(failing.rowCount(), 0);
 }
 
 void TestGenParamTreeModel::composesToolTips_data()
