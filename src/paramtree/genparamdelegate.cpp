@@ -125,6 +125,15 @@ void GenParamDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionV
     editor->setGeometry(place);
 }
 
+void GenParamDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const
+{
+    option->index = index;
+    option->features |= QStyleOptionViewItem::HasDisplay;
+    option->text = displayText(index.data(Qt::DisplayRole), option->locale);
+    option->backgroundBrush = index.data(Qt::BackgroundRole).value<QBrush>();
+    option->styleObject = nullptr; // no animation of the whole view for one cell
+}
+
 void GenParamDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                              const QModelIndex& index) const
 {

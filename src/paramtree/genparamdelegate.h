@@ -31,6 +31,10 @@ public:
                      const QModelIndex& index) override;
     bool eventFilter(QObject* editor, QEvent* event) override;
 
+protected:
+    /// Asks only for what a value cell has, text and background: most of what a browser does is painting.
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
+
 private slots:
     void commitSender();
 };
