@@ -184,7 +184,7 @@ bool GenParamTreeModel::setData(const QModelIndex& index, const QVariant& value,
 
 bool GenParamTreeModel::event(QEvent* event)
 {
-    if (event->type() != GenParamTreeModelPrivate::changeEventType())
+    if (!d_ptr->isChangeEvent(*event))
         return QAbstractItemModel::event(event);
     d_ptr->takePostedChanges();
     return true;

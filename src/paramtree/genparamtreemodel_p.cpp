@@ -119,7 +119,19 @@ void GenParamTreeModelPrivate::postChanges()
 {
     if (m_isPosted.exchange(true))
         return;
-    m_isPosted = !genApiFault([this] { QCoreApplication::postEvent(q_ptr, new QEvent(changeEventType())); });
+    const bool failed = bool(genApiFault([this] {
+        auto event = std::make_unique<QEvent>(changeEventType());
+        m_posts.fetch_add(1, std::memory_order_release);
+        QCoreApplication::postEvent(q_ptr, event.release());
+    }));
+    if (failed) // and only then: the event may have been taken by now
+        m_isPosted = false;
+}
+
+bool GenParamTreeModelPrivate::isChangeEvent(const QEvent& event) const
+{
+    static_cast<void>(m_posts.load(std::memory_order_acquire));
+    return event.type() == changeEventType();
 }
 
 QEvent::Type GenParamTreeModelPrivate::changeEventType()

@@ -53,11 +53,13 @@ public:
     void reportMarked(bool compare);
     /// Reports what other threads marked since the last event.
     void takePostedChanges();
-    static QEvent::Type changeEventType();
+    /// True for the event that announces marks of other threads.
+    bool isChangeEvent(const QEvent& event) const;
 
     GenParamTreeItems items;
 
 private:
+    static QEvent::Type changeEventType();
     void registerCallback(GenApi::IValue& feature);
     bool deregisterAll();
     void onNodeChanged(GenApi::INode* node);
@@ -88,5 +90,6 @@ private:
 
     std::atomic<bool> m_isAttached{false};
     std::atomic<bool> m_isPosted{false};
+    std::atomic<unsigned> m_posts{0};    // shows thread checkers the hand-over that Qt's event queue makes
     std::atomic<bool> m_hasMarks{false}; // spares a refresh tick the search for none
 };
