@@ -8,6 +8,9 @@ set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+if(MINGW) # a library is found by the same name whichever compiler built it
+    set(CMAKE_SHARED_LIBRARY_PREFIX "")
+endif()
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
@@ -15,6 +18,9 @@ set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
 if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
     set(CMAKE_BUILD_TYPE RelWithDebInfo CACHE STRING "Build type" FORCE)
 endif()
+
+# An installed program or library finds the libraries beside it, wherever the folder stands.
+set(CMAKE_INSTALL_RPATH "$ORIGIN" "$ORIGIN/../lib")
 
 add_library(zeto_settings INTERFACE)
 add_library(Zeto::Settings ALIAS zeto_settings)
@@ -28,7 +34,8 @@ if(MSVC)
     target_compile_options(zeto_settings INTERFACE /W4 /utf-8 /permissive- /Zc:__cplusplus
         $<$<BOOL:${ZETO_WARNINGS_AS_ERRORS}>:/WX>)
 else()
-    target_compile_options(zeto_settings INTERFACE -Wall -Wextra -Wnon-virtual-dtor -Woverloaded-virtual
+    target_compile_options(zeto_settings INTERFACE -Wall -Wextra
+        "$<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor;-Woverloaded-virtual>"
         $<$<BOOL:${ZETO_WARNINGS_AS_ERRORS}>:-Werror>)
 endif()
 

@@ -4,7 +4,7 @@ include(GenerateExportHeader)
 
 # zeto_use_qt_tools(TARGET): moc and uic for a target, and their output in zeto_generated.
 function(zeto_use_qt_tools name)
-    set_target_properties(${name} PROPERTIES AUTOMOC ON AUTOUIC ON)
+    set_target_properties(${name} PROPERTIES AUTOMOC ON AUTOUIC ON AUTOGEN_ORIGIN_DEPENDS OFF)
     set_property(GLOBAL APPEND PROPERTY ZETO_GENERATED ${name}_autogen)
 endfunction()
 
@@ -29,19 +29,28 @@ function(zeto_add_part name)
     target_link_libraries(${name} PUBLIC Zeto::Settings ${PART_DEPENDS})
 endfunction()
 
-# zeto_add_test(NAME SOURCES... [LIBS targets...] [LABELS labels...])
-# One Qt Test program, run by ctest without a display and failed by any unexpected Qt warning.
+# zeto_add_test(NAME SOURCES... [LIBS targets...] [LABELS labels...] [NATIVE_WINDOWS])
+# One Qt Test program, run by ctest without a display and failed by any unexpected Qt warning. With NATIVE_WINDOWS it
+# has one to itself, with a window manager, on which other programs' windows can be shown.
 function(zeto_add_test name)
-    cmake_parse_arguments(TEST "" "TIMEOUT" "SOURCES;LIBS;LABELS" ${ARGN})
+    cmake_parse_arguments(TEST "NATIVE_WINDOWS" "TIMEOUT" "SOURCES;LIBS;LABELS" ${ARGN})
     if(NOT TEST_TIMEOUT)
         set(TEST_TIMEOUT 300)
     endif()
     add_executable(${name} ${TEST_SOURCES})
     zeto_use_qt_tools(${name})
     target_link_libraries(${name} PRIVATE zeto_test_support ${TEST_LIBS})
-    add_test(NAME ${name} COMMAND ${name})
+    set(command ${name}) # by its name, so that a cross build runs it in its emulator
+    set(platform offscreen)
+    if(TEST_NATIVE_WINDOWS AND WIN32)
+        set(platform windows) # on the one display that all programs have
+    elseif(TEST_NATIVE_WINDOWS)
+        set(command "${PROJECT_SOURCE_DIR}/tests/support/with-display" $<TARGET_FILE:${name}>)
+    endif()
+    add_test(NAME ${name} COMMAND ${command})
     set_tests_properties(${name} PROPERTIES
         TIMEOUT ${TEST_TIMEOUT}
         LABELS "${TEST_LABELS}"
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;${ZETO_TEST_ENVIRONMENT}")
+        RUN_SERIAL ${TEST_NATIVE_WINDOWS}
+        ENVIRONMENT "QT_QPA_PLATFORM=${platform};${ZETO_TEST_ENVIRONMENT}")
 endfunction()
