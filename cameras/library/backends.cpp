@@ -2,6 +2,10 @@
 
 #include <simulator.h>
 
+#ifdef ZETO_HAS_ARAVIS
+#include <aravisbackend.h>
+#endif
+
 #include <algorithm>
 
 namespace ZetoCameraLibrary {
@@ -16,12 +20,22 @@ std::unique_ptr<CameraBackend> makeSimulator(ZetoCam::System& system, const Sett
     return simulator;
 }
 
+#ifdef ZETO_HAS_ARAVIS
+std::unique_ptr<CameraBackend> makeAravis(ZetoCam::System& system, const Settings&)
+{
+    return std::make_unique<ZetoAravis::AravisBackend>(system);
+}
+#endif
+
 } // namespace
 
 const std::vector<BackendKind>& backendKinds()
 {
     static const std::vector<BackendKind> kinds = {
         {"simulator", makeSimulator},
+#ifdef ZETO_HAS_ARAVIS
+        {"aravis", makeAravis},
+#endif
     };
     return kinds;
 }

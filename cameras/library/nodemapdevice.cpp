@@ -2,6 +2,8 @@
 
 #include <genparamerror.h>
 
+#include <GenApi/GenApi.h>
+
 namespace ZetoCameraLibrary {
 
 NodeMapDevice::NodeMapDevice(GENAPI_NAMESPACE::INodeMap& nodeMap)
@@ -24,6 +26,15 @@ int32_t NodeMapDevice::UnregisterEvent(int32_t eventId, ZetoCam::DeviceEventCall
 {
     m_events.remove(eventId, callback, context);
     return ZetoCam::Success;
+}
+
+void restrictAccess(const GENAPI_NAMESPACE::INodeMap& nodeMap, ZetoCam::AccessMode accessMode)
+{
+    using namespace GENAPI_NAMESPACE;
+    NodeList_t nodes;
+    nodeMap.GetNodes(nodes);
+    for (INode* node : nodes)
+        node->ImposeAccessMode(accessMode == ZetoCam::AccessReadOnly ? RO : RW);
 }
 
 } // namespace ZetoCameraLibrary

@@ -24,4 +24,7 @@ private:
     DeviceEvents m_events;
 };
 
+/// Lets nothing be written to a camera that is opened for reading only.
+void restrictAccess(const GENAPI_NAMESPACE::INodeMap& nodeMap, ZetoCam::AccessMode accessMode);
+
 } // namespace ZetoCameraLibrary

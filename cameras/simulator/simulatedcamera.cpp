@@ -96,7 +96,7 @@ ZetoCam::Device* SimulatedCamera::open(ZetoCam::AccessMode accessMode, int32_t* 
         session = std::make_shared<Session>(*this, *m_features);
         m_session = session;
     }
-    restrictAccess(accessMode);
+    ZetoCameraLibrary::restrictAccess(*m_features, accessMode);
     return session.get();
 }
 
@@ -163,16 +163,6 @@ void SimulatedCamera::makeFeatures()
     m_features = makeCameraFeatures(*this);
     m_features->setAccessHook(
         [this](const char* call, const GENAPI_NAMESPACE::INode*) { m_faults.onCall(call); });
-}
-
-/// A camera opened for reading only lets nothing be written in that session.
-void SimulatedCamera::restrictAccess(ZetoCam::AccessMode accessMode)
-{
-    using namespace GENAPI_NAMESPACE;
-    NodeList_t nodes;
-    m_features->GetNodes(nodes);
-    for (INode* node : nodes)
-        node->ImposeAccessMode(accessMode == ZetoCam::AccessReadOnly ? RO : RW);
 }
 
 } // namespace ZetoSimulator

@@ -72,7 +72,6 @@ private:
     bool isOnNetwork() const { return m_interfaceType == ZetoCam::InterfaceGigEVision; }
     ZetoCam::AccessStatus statusLocked() const;
     void makeFeatures();
-    void restrictAccess(ZetoCam::AccessMode accessMode);
 
     const CameraSetup m_setup;
     const ZetoCam::InterfaceType m_interfaceType;

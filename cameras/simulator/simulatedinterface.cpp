@@ -1,61 +1,23 @@
 #include "simulatedinterface.h"
 
-#include "interfacefeatures.h"
 #include "simulatedcamera.h"
 
-#include <genparamerror.h>
-#include <nodemap.h>
-#include <nodemaparray.h>
-#include <vectorlist.h>
-
-#include <chrono>
 #include <thread>
 #include <utility>
 
 namespace ZetoSimulator {
 
 SimulatedInterface::SimulatedInterface(ZetoCam::System& system, InterfaceSetup setup, const Clock& clock)
-    : m_system(system)
+    : SearchedInterface(system)
     , m_setup(std::move(setup))
 {
     for (const CameraSetup& camera : m_setup.cameras) {
         m_cameras.push_back(std::make_unique<SimulatedCamera>(camera, m_setup.type, m_setup.address, clock));
         m_infos.push_back(std::make_unique<SimulatedDeviceInfo>(*this, *m_cameras.back()));
     }
-    m_features = makeInterfaceFeatures(*this);
-    m_parameters = std::make_unique<ZetoGenParam::NodeMapArray>(*m_features);
 }
 
 SimulatedInterface::~SimulatedInterface() = default;
-
-ZetoCam::DeviceInfoList* SimulatedInterface::GetDeviceInfoList()
-{
-    const std::vector<SimulatedDeviceInfo*> cameras = found();
-    return ZetoCameraLibrary::VectorList<ZetoCam::DeviceInfo>::make({cameras.begin(), cameras.end()});
-}
-
-ZetoGenParam::Array* SimulatedInterface::GetParameters(int32_t* error)
-{
-    ZetoGenParam::setError(error, ZetoCam::Success);
-    return m_parameters.get();
-}
-
-ZetoCam::System* SimulatedInterface::GetSystem()
-{
-    return &m_system;
-}
-
-int32_t SimulatedInterface::ReEnumerateDevices(bool* changed, uint64_t)
-{
-    if (const int delay = m_searchDelay)
-        std::this_thread::sleep_for(std::chrono::milliseconds(delay));
-    const bool isOther = search();
-    if (isOther)
-        m_features->InvalidateNodes();
-    if (changed)
-        *changed = isOther;
-    return m_plugged ? ZetoCam::Success : ZetoCam::ErrorNoDevice;
-}
 
 const char* SimulatedInterface::GetDescription()
 {
@@ -77,10 +39,9 @@ const char* SimulatedInterface::GetVersion()
     return m_setup.version.c_str();
 }
 
-std::vector<SimulatedDeviceInfo*> SimulatedInterface::found() const
+const char* SimulatedInterface::usbVersion() const
 {
-    const std::lock_guard guard(m_mutex);
-    return m_found;
+    return m_setup.type == ZetoCam::InterfaceUSB3Vision ? "3.2" : nullptr;
 }
 
 void SimulatedInterface::setPlugged(bool plugged)
@@ -90,17 +51,15 @@ void SimulatedInterface::setPlugged(bool plugged)
         camera->setInterfacePlugged(plugged);
 }
 
-/// \return whether it found other cameras than the search before
-bool SimulatedInterface::search()
+int32_t SimulatedInterface::search(std::chrono::milliseconds, std::vector<ZetoCam::DeviceInfo*>& answering)
 {
-    std::vector<SimulatedDeviceInfo*> answering;
+    if (const int delay = m_searchDelay)
+        std::this_thread::sleep_for(std::chrono::milliseconds(delay));
     for (const auto& info : m_infos) {
         if (info->camera().isFoundBySearch())
             answering.push_back(info.get());
     }
-    const std::lock_guard guard(m_mutex);
-    answering.swap(m_found);
-    return answering != m_found;
+    return m_plugged ? ZetoCam::Success : ZetoCam::ErrorNoDevice;
 }
 
 } // namespace ZetoSimulator

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "demo.h"
 #include "simulatorcontrol.h"
 #include "simulatorsetup.h"
 
 #include <camerabackend.h>
+#include <repeater.h>
 
 #include <mutex>
 
@@ -46,7 +46,7 @@ private:
     /// Serves the control calls one after the other; recursive, for calls out of event callbacks.
     std::recursive_mutex m_controlMutex;
     std::mutex m_demoMutex;
-    Demo m_demo;
+    ZetoCameraLibrary::Repeater m_demo;
 };
 
 } // namespace ZetoSimulator

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "networkaddress.h"
-
 #include <ZetoCameraApi.h>
+#include <networkaddress.h>
 
 #include <chrono>
 #include <functional>
@@ -10,6 +9,9 @@
 #include <vector>
 
 namespace ZetoSimulator {
+
+using ZetoCameraLibrary::ipv4;
+using ZetoCameraLibrary::NetworkAddress;
 
 enum class CameraKind
 {

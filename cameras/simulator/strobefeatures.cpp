@@ -11,9 +11,11 @@ constexpr int64_t longest = 1'000'000; // us, delay and width together
 
 void addStrobe(NodeMapBuilder& b, const std::string& strobe)
 {
-    const auto time = [&](const std::string& name, int64_t least, const std::string& other, int64_t value) {
+    const auto time = [&](const std::string& name, int64_t least, const std::string& other, int64_t value,
+                          const std::string& toolTip) {
         b.integer(name)
             .in("StrobeControl")
+            .toolTip(toolTip)
             .unit("us")
             .representation(GenApi::Logarithmic)
             .limits(least, Setting<int64_t>([other](const NodeMap& map) {
@@ -21,18 +23,31 @@ void addStrobe(NodeMapBuilder& b, const std::string& strobe)
                            }).computedFrom({other}))
             .value(value);
     };
-    b.enumeration(strobe + "Mode").in("StrobeControl").entries({"Disabled", "Enabled"});
-    b.enumeration(strobe + "Reference").in("StrobeControl").entries({"ExposureStart", "ReadoutStart"});
-    time(strobe + "Delay", 0, strobe + "Width", 0);
-    time(strobe + "Width", 1, strobe + "Delay", 1000);
+    b.enumeration(strobe + "Mode")
+        .in("StrobeControl")
+        .toolTip("Whether the strobe is given with each frame")
+        .entries({"Disabled", "Enabled"});
+    b.enumeration(strobe + "Reference")
+        .in("StrobeControl")
+        .toolTip("What the delay counts from")
+        .entries({"ExposureStart", "ReadoutStart"});
+    time(strobe + "Delay", 0, strobe + "Width", 0, "From the reference to the start of the strobe");
+    time(strobe + "Width", 1, strobe + "Delay", 1000,
+         "How long the strobe lasts; delay and width together are limited");
 }
 
 void addOutput(NodeMapBuilder& b, const std::string& line)
 {
     b.enumeration(line + "Selector")
         .in("StrobeControl")
-        .entries({"None", "Strobe1", "Strobe2", "TriggerActual", "PulseGenerator"});
-    b.enumeration(line + "Polarity").in("StrobeControl").entries({"ActiveLow", "ActiveHigh"});
+        .toolTip("The signal that the output carries; the trigger only while it is on")
+        .entries({"None", "Strobe1", "Strobe2"})
+        .entry(Entry("TriggerActual", 3).availableIf(isEntry("TriggerMode", "On")))
+        .entry("PulseGenerator", 4);
+    b.enumeration(line + "Polarity")
+        .in("StrobeControl")
+        .toolTip("The level of the output while its signal is on")
+        .entries({"ActiveLow", "ActiveHigh"});
 }
 
 } // namespace

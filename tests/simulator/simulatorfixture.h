@@ -2,6 +2,7 @@
 
 #include "librarysystem.h"
 #include "simulator.h"
+#include "takelist.h"
 
 #include <ZetoGenParam.h>
 
@@ -62,16 +63,6 @@ public:
     }
 
 private:
-    template <typename T>
-    static std::vector<T*> takeList(ZetoCam::List<T>* list)
-    {
-        std::vector<T*> elements;
-        for (T* each = list->GetFirst(); each; each = list->GetNext())
-            elements.push_back(each);
-        list->Release();
-        return elements;
-    }
-
     ZetoCameraLibrary::LibrarySystem m_system;
     ZetoSimulator::Simulator* m_simulator; ///< owned by the system
 };

@@ -157,6 +157,8 @@ void TestCameraFeatures::follows_its_settings_data()
     row("pulses", "PulseGenPeriod=100 PulseGenMode=Continuous",
         "PulseGenWidth.max=99 PulseGenNumPulses.mode=NA");
     row("strobe", "Strobe1Delay=400000", "Strobe1Width.max=600000 Strobe2Width.max=1000000");
+    row("trigger on an output", "TriggerMode=On OUT1Selector=TriggerActual TriggerMode=Off",
+        "OUT1Selector=TriggerActual EnumEntry_OUT1Selector_TriggerActual.mode=NA");
     row("corrections", "DefectPixelCorrection=Dynamic",
         "DefectPixelThreshold.mode=RW HotPixelThreshold.mode=NA");
 }

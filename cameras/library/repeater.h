@@ -6,16 +6,16 @@
 #include <mutex>
 #include <thread>
 
-namespace ZetoSimulator {
+namespace ZetoCameraLibrary {
 
 /// Calls a function again and again on a thread of its own.
-class Demo
+class Repeater
 {
 public:
-    Demo() = default;
-    ~Demo() { stop(); }
-    Demo(const Demo&) = delete;
-    Demo& operator=(const Demo&) = delete;
+    Repeater() = default;
+    ~Repeater() { stop(); }
+    Repeater(const Repeater&) = delete;
+    Repeater& operator=(const Repeater&) = delete;
 
     /// Calls \a step with 0, 1, 2 ... after each \a period.
     void start(std::chrono::milliseconds period, std::function<void(std::size_t)> step);
@@ -32,4 +32,4 @@ private:
     std::thread m_thread;
 };
 
-} // namespace ZetoSimulator
+} // namespace ZetoCameraLibrary

@@ -1,17 +1,17 @@
-#include "demo.h"
+#include "repeater.h"
 
 #include <utility>
 
-namespace ZetoSimulator {
+namespace ZetoCameraLibrary {
 
-void Demo::start(std::chrono::milliseconds period, std::function<void(std::size_t)> step)
+void Repeater::start(std::chrono::milliseconds period, std::function<void(std::size_t)> step)
 {
     stop();
     m_stopping = false;
     m_thread = std::thread([this, period, step = std::move(step)] { run(period, step); });
 }
 
-void Demo::stop()
+void Repeater::stop()
 {
     {
         const std::lock_guard guard(m_mutex);
@@ -22,7 +22,7 @@ void Demo::stop()
         m_thread.join();
 }
 
-void Demo::run(std::chrono::milliseconds period, const std::function<void(std::size_t)>& step)
+void Repeater::run(std::chrono::milliseconds period, const std::function<void(std::size_t)>& step)
 {
     std::unique_lock lock(m_mutex);
     for (std::size_t count = 0; !m_wake.wait_for(lock, period, [this] { return m_stopping; }); ++count) {
@@ -32,4 +32,4 @@ void Demo::run(std::chrono::milliseconds period, const std::function<void(std::s
     }
 }
 
-} // namespace ZetoSimulator
+} // namespace ZetoCameraLibrary

@@ -1,6 +1,6 @@
 #include "networkaddress.h"
 
-namespace ZetoSimulator {
+namespace ZetoCameraLibrary {
 
 bool isReachable(const NetworkAddress& camera, const NetworkAddress& adapter)
 {
@@ -14,4 +14,4 @@ bool isUsable(const NetworkAddress& camera, const NetworkAddress& adapter)
     return isHost && isReachable(camera, adapter) && camera.ip != adapter.ip && camera.mask == adapter.mask;
 }
 
-} // namespace ZetoSimulator
+} // namespace ZetoCameraLibrary

@@ -1,21 +1,20 @@
 #include "interfacefeatures.h"
 
-#include "simulatedcamera.h"
-#include "simulatedinterface.h"
+#include "searchedinterface.h"
 
 #include <genparamerror.h>
 #include <nodemapbuilder.h>
 
 using namespace ZetoNodeMap;
 
-namespace ZetoSimulator {
+namespace ZetoCameraLibrary {
 namespace {
 
 /// Builds the features of one interface.
 class InterfaceFeatures
 {
 public:
-    explicit InterfaceFeatures(SimulatedInterface& owner)
+    explicit InterfaceFeatures(SearchedInterface& owner)
         : m_owner(owner)
     {
     }
@@ -30,22 +29,23 @@ public:
             .contains("DeviceUpdateList", "DeviceSelector");
         addIdentity();
         addIdentityOfDevice();
-        if (m_owner.setup().type == ZetoCam::InterfaceGigEVision) {
+        if (m_owner.GetType() == ZetoCam::InterfaceGigEVision) {
             addAdapter();
             addNetworkOfDevice();
             addForceIp();
         }
-        if (m_owner.setup().type == ZetoCam::InterfaceUSB3Vision)
-            deviceText("DeviceUSBVersionDetected", [](SimulatedDeviceInfo&) { return "3.2"; });
+        if (m_owner.usbVersion())
+            deviceText("DeviceUSBVersionDetected",
+                       [&owner = m_owner](ZetoCam::DeviceInfo&) { return owner.usbVersion(); });
         addSelector();
         return m_builder.build();
     }
 
 private:
     /// The camera that the selector chooses; the last search may have found less than it points at.
-    static SimulatedDeviceInfo& selected(SimulatedInterface& owner, const NodeMap& map)
+    static ZetoCam::DeviceInfo& selected(SearchedInterface& owner, const NodeMap& map)
     {
-        const std::vector<SimulatedDeviceInfo*> found = owner.found();
+        const std::vector<ZetoCam::DeviceInfo*> found = owner.found();
         const int64_t row = map.integer("DeviceSelector");
         if (row < 0 || static_cast<std::size_t>(row) >= found.size())
             throw ZetoGenParam::CodeException(ZetoCam::ErrorInvalidIndex);
@@ -54,41 +54,46 @@ private:
 
     void addIdentity()
     {
-        const InterfaceSetup& setup = m_owner.setup();
         const auto text = [this](const char* name, const std::string& value) {
             m_builder.string(name).in("InterfaceInformation").standard().access(GenApi::RO).value(value);
         };
-        text("InterfaceID", setup.id);
-        text("InterfaceDisplayName", setup.description);
+        text("InterfaceID", m_owner.GetID());
+        text("InterfaceDisplayName", m_owner.GetDescription());
         m_builder.enumeration("InterfaceType")
             .in("InterfaceInformation")
             .standard()
             .access(GenApi::RO)
             .entries({"Custom", "USB3Vision", "GigEVision", "CameraLink", "CoaXPress", "HDSDI"})
-            .value(int64_t{setup.type});
+            .value(int64_t{m_owner.GetType()});
     }
 
     void addAdapter()
     {
-        const InterfaceSetup& setup = m_owner.setup();
-        const auto number = [this](const char* name, GenApi::ERepresentation representation, uint64_t value) {
-            m_builder.integer(name)
-                .in("InterfaceInformation")
-                .standard()
-                .access(GenApi::RO)
-                .representation(representation)
-                .value(static_cast<int64_t>(value));
-        };
-        number("GevInterfaceMACAddress", GenApi::MACAddress, setup.mac);
-        number("GevInterfaceSubnetIPAddress", GenApi::IPV4Address, setup.address.ip);
-        number("GevInterfaceSubnetMask", GenApi::IPV4Address, setup.address.mask);
+        adapterNumber("GevInterfaceMACAddress", GenApi::MACAddress,
+                      [](const SearchedInterface& owner) { return owner.adapterMac(); });
+        adapterNumber("GevInterfaceSubnetIPAddress", GenApi::IPV4Address,
+                      [](const SearchedInterface& owner) { return owner.adapterAddress().ip; });
+        adapterNumber("GevInterfaceSubnetMask", GenApi::IPV4Address,
+                      [](const SearchedInterface& owner) { return owner.adapterAddress().mask; });
+    }
+
+    template <typename Read>
+    void adapterNumber(const char* name, GenApi::ERepresentation representation, Read read)
+    {
+        m_builder.integer(name)
+            .in("InterfaceInformation")
+            .standard()
+            .access(GenApi::RO)
+            .representation(representation)
+            .onRead([&owner = m_owner, read] { return static_cast<int64_t>(read(owner)); });
     }
 
     void addSelector()
     {
-        SimulatedInterface& owner = m_owner;
+        SearchedInterface& owner = m_owner;
         m_builder.command("DeviceUpdateList").standard().onExecute([&owner] {
-            owner.ReEnumerateDevices(nullptr, 0);
+            constexpr uint64_t timeout = 200; // ms
+            owner.ReEnumerateDevices(nullptr, timeout);
         });
         m_builder.integer("DeviceSelector")
             .standard()
@@ -100,25 +105,25 @@ private:
 
     void addIdentityOfDevice()
     {
-        deviceText("DeviceID", [](SimulatedDeviceInfo& info) { return info.GetID(); });
-        deviceText("DeviceVendorName", [](SimulatedDeviceInfo& info) { return info.GetVendor(); });
-        deviceText("DeviceModelName", [](SimulatedDeviceInfo& info) { return info.GetModel(); });
-        deviceText("DeviceSerialNumber", [](SimulatedDeviceInfo& info) { return info.GetSerialNumber(); });
-        deviceText("DeviceUserID", [](SimulatedDeviceInfo& info) { return info.GetUserName(); });
+        deviceText("DeviceID", [](ZetoCam::DeviceInfo& info) { return info.GetID(); });
+        deviceText("DeviceVendorName", [](ZetoCam::DeviceInfo& info) { return info.GetVendor(); });
+        deviceText("DeviceModelName", [](ZetoCam::DeviceInfo& info) { return info.GetModel(); });
+        deviceText("DeviceSerialNumber", [](ZetoCam::DeviceInfo& info) { return info.GetSerialNumber(); });
+        deviceText("DeviceUserID", [](ZetoCam::DeviceInfo& info) { return info.GetUserName(); });
         deviceNumber("DeviceAccessStatus", GenApi::PureNumber,
-                     [](SimulatedDeviceInfo& info) { return int64_t{info.GetAccessStatus()}; });
+                     [](ZetoCam::DeviceInfo& info) { return int64_t{info.GetAccessStatus()}; });
     }
 
     void addNetworkOfDevice()
     {
         deviceNumber("GevDeviceMACAddress", GenApi::MACAddress,
-                     [](SimulatedDeviceInfo& info) { return static_cast<int64_t>(info.GetMACAddress()); });
+                     [](ZetoCam::DeviceInfo& info) { return static_cast<int64_t>(info.GetMACAddress()); });
         deviceNumber("GevDeviceIPAddress", GenApi::IPV4Address,
-                     [](SimulatedDeviceInfo& info) { return int64_t{info.GetIPAddress()}; });
+                     [](ZetoCam::DeviceInfo& info) { return int64_t{info.GetIPAddress()}; });
         deviceNumber("GevDeviceSubnetMask", GenApi::IPV4Address,
-                     [](SimulatedDeviceInfo& info) { return int64_t{info.GetSubnetMask()}; });
+                     [](ZetoCam::DeviceInfo& info) { return int64_t{info.GetSubnetMask()}; });
         deviceNumber("GevDeviceGateway", GenApi::IPV4Address,
-                     [](SimulatedDeviceInfo& info) { return int64_t{info.GetGateway()}; });
+                     [](ZetoCam::DeviceInfo& info) { return int64_t{info.GetGateway()}; });
     }
 
     void addForceIp()
@@ -131,7 +136,7 @@ private:
                 .representation(GenApi::IPV4Address)
                 .limits(0, 0xffffffff)
                 .value(0);
-        SimulatedInterface& owner = m_owner;
+        SearchedInterface& owner = m_owner;
         m_builder.command("GevDeviceForceIP")
             .in("DeviceEnumeration")
             .standard()
@@ -170,22 +175,22 @@ private:
     template <typename Builder>
     Builder ofDevice(Builder builder)
     {
-        SimulatedInterface& owner = m_owner;
+        SearchedInterface& owner = m_owner;
         return builder.in("DeviceEnumeration").standard().access(GenApi::RO).availableIf([&owner] {
             return !owner.found().empty();
         });
     }
 
-    SimulatedInterface& m_owner;
+    SearchedInterface& m_owner;
     NodeMapBuilder m_builder;
     std::vector<std::string> m_ofDevice; ///< the features that DeviceSelector selects
 };
 
 } // namespace
 
-std::unique_ptr<NodeMap> makeInterfaceFeatures(SimulatedInterface& owner)
+std::unique_ptr<NodeMap> makeInterfaceFeatures(SearchedInterface& owner)
 {
     return InterfaceFeatures(owner).build();
 }
 
-} // namespace ZetoSimulator
+} // namespace ZetoCameraLibrary

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-namespace ZetoSimulator {
+namespace ZetoCameraLibrary {
 
 /// An IPv4 configuration; the first octet is in the highest byte.
 struct NetworkAddress
@@ -24,4 +24,4 @@ bool isReachable(const NetworkAddress& camera, const NetworkAddress& adapter);
 /// host, in the adapter's subnet, not the adapter's own, and its mask is the adapter's.
 bool isUsable(const NetworkAddress& camera, const NetworkAddress& adapter);
 
-} // namespace ZetoSimulator
+} // namespace ZetoCameraLibrary
