@@ -1,5 +1,6 @@
 #include "cameradescription.h"
 
+#include "limitvariables.h"
 #include "literal.h"
 
 #include <algorithm>
@@ -253,11 +254,11 @@ void CameraDescription::addEntries(int enumeration)
 /// Formulas without a name inside a register are part of it; entries are nodes of their own.
 void CameraDescription::addLinks(DescriptionNode& node, XmlElement& element)
 {
+    for (const std::string& name : settleLimitVariables(*this, element))
+        m_problems.push_back(node.name + ": the variable " + name + " counts as 0");
     for (XmlElement& child : element.children) {
         if (child.name == "Extension" || child.name == "EnumEntry" || child.name == "StructEntry")
             continue;
-        if (child.name == "pVariable" && child.attribute("Name").find('.') != std::string::npos)
-            m_problems.push_back(node.name + ": variables like " + child.attribute("Name") + " count as 0");
         if (const TagRole* known = roleOf(child.name))
             node.links.push_back({known->role, find(child.text), &child});
         if (const std::string offset = child.attribute("pOffset"); !offset.empty())

@@ -6,7 +6,7 @@
 #include "memoryseed.h"
 #include "nodemap.h"
 #include "nodemapmaker.h"
-#include "sparsememory.h"
+#include "sparsedevicememory.h"
 
 #include <cerrno>
 #include <cstring>
@@ -28,7 +28,7 @@ struct DescriptionNodeMap::Private
     }
 
     CameraDescription description;
-    SparseMemory memory;
+    SparseDeviceMemory memory;
     GObjectPointer<ArvDevice> memoryDevice;
     DescribedDevice device;
     std::unique_ptr<ZetoNodeMap::NodeMap> nodeMap;

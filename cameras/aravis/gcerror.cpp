@@ -39,6 +39,7 @@ Failure failureOfDevice(int code)
 {
     switch (code) {
     case ARV_DEVICE_ERROR_TIMEOUT:
+    case ARV_DEVICE_ERROR_NOT_CONNECTED:
         return Failure::Timeout;
     case ARV_DEVICE_ERROR_NOT_CONTROLLER:
     case ARV_DEVICE_ERROR_PROTOCOL_ERROR_WRITE_PROTECT:

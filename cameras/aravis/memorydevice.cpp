@@ -1,6 +1,8 @@
 #include "memorydevice.h"
 
-#include "sparsememory.h"
+#include "devicememory.h"
+
+#include <string>
 
 namespace ZetoAravis {
 namespace {
@@ -8,7 +10,7 @@ namespace {
 struct ZetoMemoryDevice
 {
     ArvDevice parent;
-    SparseMemory* memory; ///< not owned
+    DeviceMemory* memory; ///< not owned
 };
 
 struct ZetoMemoryDeviceClass
@@ -16,39 +18,29 @@ struct ZetoMemoryDeviceClass
     ArvDeviceClass parent;
 };
 
-SparseMemory& memoryOf(ArvDevice* device)
+DeviceMemory& memoryOf(ArvDevice* device)
 {
     return *reinterpret_cast<ZetoMemoryDevice*>(device)->memory;
 }
 
-gboolean succeeded(bool success, guint64 address, GError** error)
-{
-    if (!success)
-        g_set_error(error, ARV_DEVICE_ERROR, ARV_DEVICE_ERROR_PROTOCOL_ERROR_INVALID_ADDRESS,
-                    "no memory at 0x%" G_GINT64_MODIFIER "x", address);
-    return success ? TRUE : FALSE;
-}
-
 gboolean readMemory(ArvDevice* device, guint64 address, guint32 size, void* buffer, GError** error)
 {
-    return succeeded(memoryOf(device).read(address, static_cast<std::uint8_t*>(buffer), size), address,
-                     error);
+    return memoryOf(device).readMemory(address, size, buffer, error) ? TRUE : FALSE;
 }
 
 gboolean writeMemory(ArvDevice* device, guint64 address, guint32 size, void* buffer, GError** error)
 {
-    return succeeded(memoryOf(device).write(address, static_cast<const std::uint8_t*>(buffer), size), address,
-                     error);
+    return memoryOf(device).writeMemory(address, size, buffer, error) ? TRUE : FALSE;
 }
 
 gboolean readRegister(ArvDevice* device, guint64 address, guint32* value, GError** error)
 {
-    return readMemory(device, address, sizeof *value, value, error);
+    return memoryOf(device).readRegister(address, value, error) ? TRUE : FALSE;
 }
 
 gboolean writeRegister(ArvDevice* device, guint64 address, guint32 value, GError** error)
 {
-    return writeMemory(device, address, sizeof value, &value, error);
+    return memoryOf(device).writeRegister(address, value, error) ? TRUE : FALSE;
 }
 
 void initialiseClass(gpointer classPointer, gpointer /*data*/)
@@ -65,17 +57,24 @@ void initialiseClass(gpointer classPointer, gpointer /*data*/)
     deviceClass->write_register = writeRegister;
 }
 
+/// The name is unique in the process, where several libraries may contain this code.
+std::string memoryDeviceName()
+{
+    static const char place = 0;
+    return "ZetoMemoryDevice" + std::to_string(reinterpret_cast<std::uintptr_t>(&place));
+}
+
 GType memoryDeviceType()
 {
-    static const GType type =
-        g_type_register_static_simple(ARV_TYPE_DEVICE, "ZetoMemoryDevice", sizeof(ZetoMemoryDeviceClass),
-                                      initialiseClass, sizeof(ZetoMemoryDevice), nullptr, GTypeFlags(0));
+    static const GType type = g_type_register_static_simple(ARV_TYPE_DEVICE, memoryDeviceName().c_str(),
+                                                            sizeof(ZetoMemoryDeviceClass), initialiseClass,
+                                                            sizeof(ZetoMemoryDevice), nullptr, GTypeFlags(0));
     return type;
 }
 
 } // namespace
 
-GObjectPointer<ArvDevice> makeMemoryDevice(SparseMemory& memory)
+GObjectPointer<ArvDevice> makeMemoryDevice(DeviceMemory& memory)
 {
     GObjectPointer<ArvDevice> device(static_cast<ArvDevice*>(g_object_new(memoryDeviceType(), nullptr)));
     reinterpret_cast<ZetoMemoryDevice*>(device.get())->memory = &memory;

@@ -74,9 +74,10 @@ void TestCameraDescriptions::opens_data()
 void TestCameraDescriptions::openCamera()
 {
     QFETCH(QByteArray, path);
+    m_features.clear();
+    m_camera.reset();
     if (!path.isEmpty() && !QFile::exists(QFile::decodeName(path)))
         QSKIP("The descriptions of real cameras are not here");
-    m_features.clear();
     m_camera = path.isEmpty() ? DescriptionNodeMap::fromXml(fakeCameraDescription())
                               : DescriptionNodeMap::open(path.toStdString());
     m_features = featuresOf(m_camera->nodeMap());

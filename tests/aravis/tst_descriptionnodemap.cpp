@@ -224,6 +224,8 @@ void TestDescriptionNodeMap::values_data()
         << QByteArray("LiteralBoolean=0") << QByteArray("FromBooleans") << QByteArray("0");
     QTest::newRow("enumerations, constants, expressions in formulas")
         << QByteArray("Choice=A") << QByteArray("FromEnumeration") << QByteArray("202");
+    QTest::newRow("limits and entries in formulas")
+        << QByteArray("FenceTop=31") << QByteArray("FromLimits") << QByteArray("303125");
     QTest::newRow("converter") << QByteArray("Doubled=-8") << QByteArray("Literal") << QByteArray("-4");
     QTest::newRow("reciprocal") << QByteArray("Reciprocal=50") << QByteArray("Reciprocal")
                                 << QByteArray("50");
