@@ -43,14 +43,14 @@ public:
     virtual void setVisibility(Visibility visibility) = 0;
 
     /// Expanded categories, width of the name column, visibility level and height of the description, as a
-    /// text for loadState(); an empty text while nothing is shown. \return UTF-8, valid until the next call
-    /// or the view's end.
+    /// text for loadState(); an empty text while nothing is shown.
+    /// \return UTF-8, valid until the next call or the view's end
     virtual const char* saveState() const = 0;
 
     /// Restores what saveState() returned. A null or empty \a state changes nothing, and so does any state
-    /// while nothing is shown. \throws std::invalid_argument or std::out_of_range when \a state holds a
-    /// malformed number; the view is then
-    ///         as it was before.
+    /// while nothing is shown.
+    /// \throws std::invalid_argument or std::out_of_range when \a state holds a malformed number; the view is
+    ///         then as it was before
     virtual void loadState(const char* state) = 0;
 
     /// Lets \a milliseconds pass from one refresh of the values on screen to the next; 0, the initial value,

@@ -20,8 +20,16 @@ bool isDone(GenApi::IValue& command)
 CommandWatch::CommandWatch(Done done)
     : m_done(std::move(done))
 {
-    m_timer.setInterval(interval);
-    QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { ask(); });
+}
+
+QTimer& CommandWatch::timer()
+{
+    if (!m_timer) {
+        m_timer = std::make_unique<QTimer>();
+        m_timer->setInterval(interval);
+        QObject::connect(m_timer.get(), &QTimer::timeout, m_timer.get(), [this] { ask(); });
+    }
+    return *m_timer;
 }
 
 void CommandWatch::started(GenApi::IValue& command)
@@ -32,7 +40,7 @@ void CommandWatch::started(GenApi::IValue& command)
     if (isDone(command))
         remove(command);
     else if (isBusy(command))
-        m_timer.start();
+        timer().start();
 }
 
 bool CommandWatch::isBusy(const GenApi::IValue& command) const
@@ -43,7 +51,8 @@ bool CommandWatch::isBusy(const GenApi::IValue& command) const
 void CommandWatch::clear()
 {
     m_busy.clear();
-    m_timer.stop();
+    if (m_timer)
+        m_timer->stop();
 }
 
 void CommandWatch::ask()
@@ -53,7 +62,7 @@ void CommandWatch::ask()
         if (isBusy(*command) && isDone(*command) && remove(*command))
             m_done(*command);
     if (m_busy.empty())
-        m_timer.stop();
+        timer().stop();
 }
 
 bool CommandWatch::remove(const GenApi::IValue& command)

@@ -5,6 +5,7 @@
 #include <QTimer>
 
 #include <functional>
+#include <memory>
 #include <vector>
 
 /// Watches the commands that a camera still works on. Asking one whether it is done also makes its node map
@@ -22,10 +23,11 @@ public:
     void clear();
 
 private:
+    QTimer& timer();
     void ask();
     bool remove(const GenApi::IValue& command);
 
     Done m_done;
-    QTimer m_timer;
+    std::unique_ptr<QTimer> m_timer; ///< made when a command first takes its time
     std::vector<GenApi::IValue*> m_busy;
 };

@@ -17,8 +17,12 @@
 
 #include <algorithm>
 #include <array>
+#include <memory>
 
 namespace {
+
+/// Dynamic property of an editor that has shown a value.
+constexpr char isFilled[] = "zetoIsFilled";
 
 /// What is to be written; invalid for nothing.
 QVariant takeEdit(QWidget& editor)
@@ -42,6 +46,16 @@ void write(QAbstractItemModel& model, const QPersistentModelIndex& cell, const Q
     CellNote::hideOn(viewport);
     if (!model.setData(cell, value, Qt::EditRole) && cell.isValid() && aliveViewport)
         CellNote::showBeside(viewport, place, refusalText(cell));
+}
+
+/// Brings an editor up to date that has been filled before: the limits and choices it was made with may have
+/// changed.
+void renew(ParamEditor& editor, const QModelIndex& index)
+{
+    const std::unique_ptr<QWidget> fresh(
+        index.data(GenParamTreeModel::ControlRole).value<ControlData>().take(nullptr));
+    if (const auto* freshEditor = dynamic_cast<const ParamEditor*>(fresh.get()))
+        editor.adopt(*freshEditor);
 }
 
 bool isCommandToRun(const QModelIndex& index)
@@ -97,7 +111,10 @@ void GenParamDelegate::setEditorData(QWidget* editor, const QModelIndex& index) 
         QTimer::singleShot(0, editor, [self, editor] { emit self->closeEditor(editor, RevertModelCache); });
     } else if (!paramEditor->isBeingEdited()) {
         const QSignalBlocker quiet(editor); // what comes from the camera must not be written back
+        if (editor->property(isFilled).toBool())
+            renew(*paramEditor, index);
         paramEditor->fill(index);
+        editor->setProperty(isFilled, true);
     }
 }
 

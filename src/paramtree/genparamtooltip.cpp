@@ -11,7 +11,7 @@ namespace {
 /// A tool tip is to fit on a screen.
 constexpr int maxListed = 40;
 
-struct Texts
+struct TooltipTexts
 {
     Q_DECLARE_TR_FUNCTIONS(GenParamTreeModel)
 };
@@ -29,7 +29,7 @@ using Line = QString (*)(const Subject&);
 
 QString yesNo(bool value)
 {
-    return value ? Texts::tr("True") : Texts::tr("False");
+    return value ? TooltipTexts::tr("True") : TooltipTexts::tr("False");
 }
 
 QString escaped(const GenICam::gcstring& text)
@@ -89,31 +89,31 @@ QString joined(QStringList texts, const QString& separator)
 
 QString nameLine(const Subject& subject)
 {
-    return Texts::tr("<i>Name:</i> %1").arg(escaped(subject.node.GetName()));
+    return TooltipTexts::tr("<i>Name:</i> %1").arg(escaped(subject.node.GetName()));
 }
 
 QString typeName(GenParamKind kind)
 {
     switch (kind) {
     case GenParamKind::Float:
-        return Texts::tr("Float");
+        return TooltipTexts::tr("Float");
     case GenParamKind::Boolean:
-        return Texts::tr("Boolean");
+        return TooltipTexts::tr("Boolean");
     case GenParamKind::Command:
-        return Texts::tr("Command");
+        return TooltipTexts::tr("Command");
     case GenParamKind::String:
-        return Texts::tr("String");
+        return TooltipTexts::tr("String");
     case GenParamKind::Enumeration:
-        return Texts::tr("Enumeration");
+        return TooltipTexts::tr("Enumeration");
     default:
-        return isIntegerKind(kind) ? Texts::tr("Integer") : QString();
+        return isIntegerKind(kind) ? TooltipTexts::tr("Integer") : QString();
     }
 }
 
 QString typeLine(const Subject& subject)
 {
     const QString type = typeName(subject.feature.kind);
-    return type.isNull() ? QString() : Texts::tr("<i>Type:</i> %1").arg(type);
+    return type.isNull() ? QString() : TooltipTexts::tr("<i>Type:</i> %1").arg(type);
 }
 
 QString selectorsLine(const Subject& subject)
@@ -123,14 +123,15 @@ QString selectorsLine(const Subject& subject)
     QStringList names;
     for (GenApi::IValue* selector : selectors)
         names += escaped(nodeOf(*selector).GetName());
-    return names.isEmpty() ? QString()
-                           : Texts::tr("<i>Selectors:</i> %1").arg(joined(names, QStringLiteral(", ")));
+    return names.isEmpty()
+               ? QString()
+               : TooltipTexts::tr("<i>Selectors:</i> %1").arg(joined(names, QStringLiteral(", ")));
 }
 
 QString limitsLine(const Subject& subject)
 {
     return ofNumber(subject, [&subject](auto& node) {
-        return Texts::tr("<i>Limits</i>: Min: %1, Max: %2")
+        return TooltipTexts::tr("<i>Limits</i>: Min: %1, Max: %2")
             .arg(limitText(subject, node.GetMin()), limitText(subject, node.GetMax()));
     });
 }
@@ -138,7 +139,7 @@ QString limitsLine(const Subject& subject)
 QString incrementLine(const Subject& subject)
 {
     return ofNumber(subject, [&subject](auto& node) {
-        return hasStep(node) ? Texts::tr("<i>Increment</i>: %1").arg(stepText(subject, node.GetInc()))
+        return hasStep(node) ? TooltipTexts::tr("<i>Increment</i>: %1").arg(stepText(subject, node.GetInc()))
                              : QString();
     });
 }
@@ -152,7 +153,7 @@ QString validValuesLine(const Subject& subject)
         QStringList texts;
         for (size_t i = 0; i < values.size(); ++i)
             texts += limitText(subject, values[i]);
-        return Texts::tr("<i>Valid values</i>: %1").arg(joined(texts, QStringLiteral(", ")));
+        return TooltipTexts::tr("<i>Valid values</i>: %1").arg(joined(texts, QStringLiteral(", ")));
     });
 }
 
@@ -162,7 +163,7 @@ QString entriesLine(const Subject& subject)
         return QString();
     GenApi::NodeList_t entries;
     subject.feature.enumeration->GetEntries(entries);
-    QStringList lines(Texts::tr("<i>Enumeration entries</i>:"));
+    QStringList lines(TooltipTexts::tr("<i>Enumeration entries</i>:"));
     for (GenApi::INode* node : entries) {
         const auto* entry = dynamic_cast<GenApi::IEnumEntry*>(node);
         if (entry && GenApi::IsAvailable(entry))
@@ -174,14 +175,14 @@ QString entriesLine(const Subject& subject)
 QString descriptionLine(const Subject& subject)
 {
     const QString text = paramDescription(*subject.feature.value).toHtmlEscaped();
-    return text.isEmpty() ? QString() : Texts::tr("<i>Description:</i> %1").arg(text);
+    return text.isEmpty() ? QString() : TooltipTexts::tr("<i>Description:</i> %1").arg(text);
 }
 
 QString streamableLine(const Subject& subject)
 {
     if (subject.feature.kind == GenParamKind::Category)
         return QString();
-    return Texts::tr("<i>Streamable:</i> %1").arg(yesNo(subject.node.IsStreamable()));
+    return TooltipTexts::tr("<i>Streamable:</i> %1").arg(yesNo(subject.node.IsStreamable()));
 }
 
 QString cachingName(GenApi::ECachingMode mode)
@@ -202,7 +203,7 @@ QString cachableLine(const Subject& subject)
 {
     if (subject.feature.kind == GenParamKind::Category)
         return QString();
-    return Texts::tr("<i>Cachable:</i> %1").arg(cachingName(subject.node.GetCachingMode()));
+    return TooltipTexts::tr("<i>Cachable:</i> %1").arg(cachingName(subject.node.GetCachingMode()));
 }
 
 } // namespace

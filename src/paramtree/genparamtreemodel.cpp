@@ -37,9 +37,9 @@ QString displayName(GenApi::IValue& feature)
 /// Translucent tints, right on light and dark palettes.
 QVariant background(const GenParamTreeItem& item)
 {
-    if (item.reading.state == GenParamState::Failed)
+    if (item.state == GenParamState::Failed)
         return QBrush(QColor(255, 0, 0, 72));
-    if (item.feature.kind != GenParamKind::Category)
+    if (item.kind != GenParamKind::Category)
         return QVariant();
     QColor tint = QGuiApplication::palette().color(QPalette::Text);
     tint.setAlpha(28);
@@ -97,22 +97,22 @@ QModelIndex GenParamTreeModel::index(int row, int column, const QModelIndex& par
 {
     if (!hasIndex(row, column, parent))
         return QModelIndex();
-    GenParamTreeItem* rows = parent.isValid() ? itemOf(parent)->children : d_ptr->items.root();
-    return createIndex(row, column, rows + row);
+    const GenParamTreeItem* above = parent.isValid() ? itemOf(parent) : nullptr;
+    return createIndex(row, column, &d_ptr->items.child(above, row));
 }
 
 QModelIndex GenParamTreeModel::parent(const QModelIndex& child) const
 {
-    GenParamTreeItem* parent = child.isValid() ? itemOf(child)->parent : nullptr;
+    GenParamTreeItem* parent = child.isValid() ? d_ptr->items.parentOf(*itemOf(child)) : nullptr;
     return parent ? createIndex(d_ptr->items.rowOf(*parent), 0, parent) : QModelIndex();
 }
 
 int GenParamTreeModel::rowCount(const QModelIndex& parent) const
 {
     if (!parent.isValid())
-        return d_ptr->items.rootCount();
+        return d_ptr->items.childCount(nullptr);
     // Only the name carries the rows below it, as views and proxies expect.
-    return parent.column() == NameColumn ? itemOf(parent)->childCount : 0;
+    return parent.column() == NameColumn ? d_ptr->items.childCount(itemOf(parent)) : 0;
 }
 
 int GenParamTreeModel::columnCount(const QModelIndex& /*parent*/) const
@@ -154,16 +154,16 @@ QVariant GenParamTreeModel::data(const QModelIndex& index, int role) const
     case Qt::DisplayRole:
     case Qt::EditRole:
         if (index.column() == NameColumn)
-            return displayName(*item.feature.value);
+            return displayName(*item.value);
         return d_ptr->valueData(item, role);
     case Qt::ToolTipRole:
-        return paramToolTip(item.feature);
+        return paramToolTip(item);
     case Qt::WhatsThisRole:
-        return paramDescription(*item.feature.value);
+        return paramDescription(*item.value);
     case Qt::BackgroundRole:
         return background(item);
     case FeatureRole:
-        return QVariant::fromValue(item.feature.value);
+        return QVariant::fromValue(item.value);
     case ControlRole:
         return index.column() == ValueColumn ? d_ptr->control(item) : QVariant();
     case ErrorRole:

@@ -24,10 +24,10 @@ bool insist(Call call)
 /// Whether \a value is the text that an editor was given for want of a value.
 bool isPlaceholder(const GenParamTreeItem& item, const QVariant& value)
 {
-    const GenParamState state = item.reading.state;
+    const GenParamState state = item.state;
     // A text only: compared as variants, true equals every text.
     return state != GenParamState::Unread && state != GenParamState::Good &&
-           value.userType() == QMetaType::QString && value == editValue(item.feature.kind, item.reading);
+           value.userType() == QMetaType::QString && value == editValue(item.kind, item.reading());
 }
 
 } // namespace
@@ -52,7 +52,7 @@ void GenParamTreeModelPrivate::attach(GenApi::INodeMap* nodeMap)
     m_callbacks.reserve(static_cast<size_t>(features));
     // A change that comes before the last callback is registered is not lost: nothing has been read yet.
     m_isAttached = true;
-    items.forEachFeature([this](GenParamTreeItem& item) { registerCallback(*item.feature.value); });
+    items.forEachFeature([this](GenParamTreeItem& item) { registerCallback(*item.value); });
 }
 
 void GenParamTreeModelPrivate::registerCallback(GenApi::IValue& feature)
@@ -108,7 +108,7 @@ void GenParamTreeModelPrivate::onNodeChanged(GenApi::INode* node)
             report(*item, true);
             return;
         }
-        item->isMarked = true;
+        items.mark(*item);
         m_hasMarks = true;
         if (!isOwnThread)
             postChanges();
@@ -151,8 +151,8 @@ void GenParamTreeModelPrivate::reportMarked(bool compare)
     if (!m_hasMarks.exchange(false)) // before the search: a later change is found by the next one
         return;
     std::vector<GenParamTreeItem*> marked;
-    items.forEachFeature([&marked](GenParamTreeItem& item) {
-        if (item.isMarked.load(std::memory_order_relaxed) && item.isMarked.exchange(false))
+    items.forEachFeature([this, &marked](GenParamTreeItem& item) {
+        if (items.takeMark(item))
             marked.push_back(&item);
     });
     for (GenParamTreeItem* item : marked)
@@ -162,38 +162,44 @@ void GenParamTreeModelPrivate::reportMarked(bool compare)
 
 void GenParamTreeModelPrivate::report(GenParamTreeItem& item, bool compare)
 {
-    if (item.reading.state != GenParamState::Unread) {
+    if (item.state != GenParamState::Unread) {
         if (!compare)
-            item.reading = GenParamReading();
+            item.setReading({});
         else if (!read(item))
-            return;
+            return reportLimits(item);
     }
     emitDataChanged(item);
 }
 
-void GenParamTreeModelPrivate::emitDataChanged(const GenParamTreeItem& item)
+/// The value is the same: what else may have changed shows in an open editor alone.
+void GenParamTreeModelPrivate::reportLimits(const GenParamTreeItem& item)
+{
+    if (&item == m_edited)
+        emitDataChanged(item, {GenParamTreeModel::ControlRole});
+}
+
+void GenParamTreeModelPrivate::emitDataChanged(const GenParamTreeItem& item, const QVector<int>& roles)
 {
     if (!m_isAttached)
         return; // given up by a receiver of an error's signal, and the item with it
-    const auto range = items.rowsOf(item.feature.value);
-    const std::vector<GenParamTreeItem*> rows(range.begin(), range.end());
+    const std::vector<GenParamTreeItem*> rows = items.rowsOf(item.value);
     for (GenParamTreeItem* row : rows) {
         if (!m_isAttached)
             return; // given up by a receiver of the signal
         const QModelIndex index = q_ptr->createIndex(items.rowOf(*row), GenParamTreeModel::ValueColumn, row);
-        emit q_ptr->dataChanged(index, index);
+        emit q_ptr->dataChanged(index, index, roles);
     }
 }
 
 void GenParamTreeModelPrivate::resolveKind(GenParamTreeItem& item) const
 {
-    if (item.feature.kind == GenParamKind::Unknown)
-        item.feature = featureInUse(*item.feature.value, items.trustsRepresentation());
+    if (item.kind == GenParamKind::Unknown)
+        static_cast<GenParamFeature&>(item) = featureInUse(*item.value, items.trustsRepresentation());
 }
 
 void GenParamTreeModelPrivate::ensureRead(GenParamTreeItem& item)
 {
-    if (item.reading.state == GenParamState::Unread)
+    if (item.state == GenParamState::Unread)
         read(item);
 }
 
@@ -202,38 +208,40 @@ bool GenParamTreeModelPrivate::read(GenParamTreeItem& item)
     GenParamReading reading;
     const std::optional<QString> fault = genApiFault([&] {
         resolveKind(item);
-        readParam(item.feature, reading);
+        readParam(item, reading);
     });
     if (fault)
         reading.state = GenParamState::Failed;
-    const bool differs = !(reading == item.reading);
-    item.reading = std::move(reading);
+    if (item.kind == GenParamKind::Enumeration && reading.state == GenParamState::Good)
+        reading.value = items.shared(std::get<QString>(reading.value));
+    const bool differs = !(reading == item.reading());
+    item.setReading(std::move(reading));
     if (fault)
-        m_errors.readFailed(*item.feature.value, *fault);
+        m_errors.readFailed(*item.value, *fault);
     else
-        m_errors.readSucceeded(*item.feature.value, differs);
+        m_errors.readSucceeded(*item.value, differs);
     return differs;
 }
 
 QVariant GenParamTreeModelPrivate::valueData(GenParamTreeItem& item, int role)
 {
     ensureRead(item);
-    return role == Qt::EditRole ? editValue(item.feature.kind, item.reading) : displayTextOf(item);
+    return role == Qt::EditRole ? editValue(item.kind, item.reading()) : displayTextOf(item);
 }
 
 QString GenParamTreeModelPrivate::displayTextOf(GenParamTreeItem& item)
 {
     GenParamFormat format;
-    if (item.reading.state == GenParamState::Good) {
+    if (item.state == GenParamState::Good) {
         if (const auto fault = genApiFault([&] { format = items.format(item); })) {
-            item.reading.state = GenParamState::Failed;
-            item.reading.value = GenParamValue();
-            m_errors.readFailed(*item.feature.value, *fault);
+            item.state = GenParamState::Failed;
+            item.shown = GenParamValue();
+            m_errors.readFailed(*item.value, *fault);
         }
     }
-    if (m_commands.isBusy(*item.feature.value))
+    if (m_commands.isBusy(*item.value))
         return GenParamTreeModel::tr("Executing...");
-    return displayText(item.feature.kind, item.reading, format);
+    return displayText(item.kind, item.reading(), format);
 }
 
 QVariant GenParamTreeModelPrivate::control(GenParamTreeItem& item)
@@ -241,20 +249,21 @@ QVariant GenParamTreeModelPrivate::control(GenParamTreeItem& item)
     ensureRead(item);
     if (!GenApi::IsWritable(accessMode(item)))
         return QVariant();
-    return QVariant::fromValue(prepareEditor(item.feature, item.reading.state == GenParamState::Good));
+    m_edited = &item;
+    return QVariant::fromValue(prepareEditor(item, item.state == GenParamState::Good));
 }
 
 QVariant GenParamTreeModelPrivate::busyData(GenParamTreeItem& item)
 {
     ensureRead(item);
-    return item.feature.kind == GenParamKind::Command ? m_commands.isBusy(*item.feature.value) : QVariant();
+    return item.kind == GenParamKind::Command ? m_commands.isBusy(*item.value) : QVariant();
 }
 
 GenApi::EAccessMode GenParamTreeModelPrivate::accessMode(const GenParamTreeItem& item) const
 {
-    if (item.reading.state != GenParamState::Unread)
-        return static_cast<GenApi::EAccessMode>(item.reading.accessMode);
-    return genApiOr(GenApi::NA, [&item] { return item.feature.value->GetAccessMode(); });
+    if (item.state != GenParamState::Unread)
+        return static_cast<GenApi::EAccessMode>(item.accessMode);
+    return genApiOr(GenApi::NA, [&item] { return item.value->GetAccessMode(); });
 }
 
 bool GenParamTreeModelPrivate::write(GenParamTreeItem& item, const QVariant& value)
@@ -262,11 +271,11 @@ bool GenParamTreeModelPrivate::write(GenParamTreeItem& item, const QVariant& val
     const bool taken = !isPlaceholder(item, value) && tryWrite(item, value);
     if (!m_isAttached)
         return taken; // given up by a receiver of a signal of the write
-    const bool wasMarked = item.isMarked.exchange(false);
+    const bool wasMarked = items.takeMark(item);
     if (taken) {
         // The camera may have rounded: what it holds is read when it is shown.
-        item.reading = GenParamReading();
-        m_errors.writeSucceeded(*item.feature.value);
+        item.setReading({});
+        m_errors.writeSucceeded(*item.value);
         emitDataChanged(item);
     } else if (wasMarked) {
         report(item, true);
@@ -281,15 +290,15 @@ bool GenParamTreeModelPrivate::tryWrite(GenParamTreeItem& item, const QVariant& 
     bool isWritable = false;
     std::optional<QString> fault = genApiFault([&] {
         resolveKind(item);
-        isWritable = GenApi::IsWritable(item.feature.value);
-        taken = isWritable && writeParam(item.feature, value);
+        isWritable = GenApi::IsWritable(item.value);
+        taken = isWritable && writeParam(item, value);
     });
-    if (taken && m_isAttached && item.feature.kind == GenParamKind::Command)
-        m_commands.started(*item.feature.value);
+    if (taken && m_isAttached && item.kind == GenParamKind::Command)
+        m_commands.started(*item.value);
     if (!fault && isWritable && !taken)
         fault = GenParamTreeModel::tr("The value does not fit the type of the feature");
     if (fault && m_isAttached)
-        m_errors.writeFailed(*item.feature.value, *fault);
+        m_errors.writeFailed(*item.value, *fault);
     return taken;
 }
 
@@ -303,7 +312,7 @@ void GenParamTreeModelPrivate::poll(qint64 elapsed)
 
 void GenParamTreeModelPrivate::refresh(GenParamTreeItem& item)
 {
-    item.isMarked = false;
+    items.takeMark(item);
     if (read(item))
         emitDataChanged(item);
 }

@@ -38,7 +38,7 @@ public:
 
     /// An editor for the feature as ControlData; nothing when it cannot be written or has none of its own.
     QVariant control(GenParamTreeItem& item);
-    QString error(const GenParamTreeItem& item) const { return m_errors.reason(*item.feature.value); }
+    QString error(const GenParamTreeItem& item) const { return m_errors.reason(*item.value); }
     /// Nothing for what is no command.
     QVariant busyData(GenParamTreeItem& item);
 
@@ -74,7 +74,9 @@ private:
     QString displayTextOf(GenParamTreeItem& item);
     bool tryWrite(GenParamTreeItem& item, const QVariant& value);
     void report(GenParamTreeItem& item, bool compare);
-    void emitDataChanged(const GenParamTreeItem& item);
+    void reportLimits(const GenParamTreeItem& item);
+    /// No \a roles stand for all.
+    void emitDataChanged(const GenParamTreeItem& item, const QVector<int>& roles = {});
 
     GenParamTreeModel* const q_ptr;
     GenApi::INodeMap* m_nodeMap = nullptr;
@@ -87,6 +89,9 @@ private:
     bool m_isCollecting = false;
     /// The feature being written: its change is reported once, after the write.
     const GenParamTreeItem* m_written = nullptr;
+
+    /// The feature that an editor was prepared for last; only compared.
+    const GenParamTreeItem* m_edited = nullptr;
 
     std::atomic<bool> m_isAttached{false};
     std::atomic<bool> m_isPosted{false};

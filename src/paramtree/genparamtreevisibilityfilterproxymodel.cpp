@@ -33,6 +33,17 @@ void GenParamTreeVisibilityFilterProxyModel::setFilterText(const QString& text)
     filterAgain();
 }
 
+void GenParamTreeVisibilityFilterProxyModel::setSourceModel(QAbstractItemModel* model)
+{
+    QSortFilterProxyModel::setSourceModel(model);
+    if (!model)
+        return;
+    // The columns of a parameter tree never move. And once something is disconnected, Qt gives back the lists
+    // of connections that it outgrew, more than a kilobyte.
+    disconnect(model, &QAbstractItemModel::columnsAboutToBeMoved, this, nullptr);
+    disconnect(model, &QAbstractItemModel::columnsMoved, this, nullptr);
+}
+
 int GenParamTreeVisibilityFilterProxyModel::rowCount(const QModelIndex& parent) const
 {
     // The base class makes a mapping for every row that it is asked about, a quarter of a kilobyte each, and
@@ -72,11 +83,16 @@ bool GenParamTreeVisibilityFilterProxyModel::accepts(GenApi::IValue& feature) co
     const auto& node = nodeOf(feature);
     if (node.GetVisibility() > m_visibility)
         return false;
-    if (node.GetPrincipalInterfaceType() != GenApi::intfICategory && !m_namePattern.isEmpty() &&
+    if (node.GetPrincipalInterfaceType() != GenApi::intfICategory && !showsEveryName() &&
         !matchesName(fromGenApi(node.GetDisplayName())))
         return false;
     // Last, because it alone may go to the camera.
     return GenApi::IsImplemented(&feature);
+}
+
+bool GenParamTreeVisibilityFilterProxyModel::showsEveryName() const
+{
+    return m_namePattern.isEmpty() || m_namePattern.pattern() == QLatin1String("*");
 }
 
 bool GenParamTreeVisibilityFilterProxyModel::matchesName(const QString& displayName) const

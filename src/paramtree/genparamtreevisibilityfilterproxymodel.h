@@ -32,6 +32,7 @@ public:
 
     int filterVisibility() const { return m_visibility; }
 
+    void setSourceModel(QAbstractItemModel* model) override;
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;
     /// Names the rows that never have others below them, beside the flags of the source model.
     Qt::ItemFlags flags(const QModelIndex& index) const override;
@@ -50,6 +51,7 @@ private:
     bool neverHasRows(const QModelIndex& index) const;
     void filterAgain();
     bool accepts(GenApi::IValue& feature) const;
+    bool showsEveryName() const;
     bool matchesName(const QString& displayName) const;
 
     qint32 m_visibility = 0;

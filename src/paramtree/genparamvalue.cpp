@@ -12,7 +12,7 @@
 
 namespace {
 
-struct Texts
+struct ValueTexts
 {
     Q_DECLARE_TR_FUNCTIONS(GenParamTreeModel)
 };
@@ -81,11 +81,11 @@ QString placeholder(GenParamState state)
 {
     switch (state) {
     case GenParamState::NotAvailable:
-        return Texts::tr("<Value not available>");
+        return ValueTexts::tr("<Value not available>");
     case GenParamState::NotReadable:
-        return Texts::tr("<Value not readable>");
+        return ValueTexts::tr("<Value not readable>");
     case GenParamState::Failed:
-        return Texts::tr("ERROR");
+        return ValueTexts::tr("ERROR");
     default:
         return QString();
     }
@@ -130,7 +130,7 @@ QString valueText(GenParamKind kind, const GenParamValue& value, const GenParamF
     if (const auto* real = std::get_if<double>(&value))
         return floatText(*real, format);
     if (const auto* boolean = std::get_if<bool>(&value))
-        return *boolean ? Texts::tr("True") : Texts::tr("False");
+        return *boolean ? ValueTexts::tr("True") : ValueTexts::tr("False");
     const auto* text = std::get_if<QString>(&value);
     return text ? *text : QString();
 }
@@ -139,7 +139,7 @@ QString displayText(GenParamKind kind, const GenParamReading& reading, const Gen
 {
     if (reading.state != GenParamState::Good)
         return placeholder(reading.state);
-    return kind == GenParamKind::Command ? Texts::tr("Execute") : valueText(kind, reading.value, format);
+    return kind == GenParamKind::Command ? ValueTexts::tr("Execute") : valueText(kind, reading.value, format);
 }
 
 QVariant editValue(GenParamKind kind, const GenParamReading& reading)

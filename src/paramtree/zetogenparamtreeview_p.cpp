@@ -1,5 +1,6 @@
 #include "zetogenparamtreeview_p.h"
 
+#include "applicationlanguage.h"
 #include "categories.h"
 #include "filteroptions.h"
 #include "generrorsdlg.h"
@@ -20,6 +21,7 @@ constexpr int DescriptionLines = 3;
 
 Ui::GenParamTreeView formOf(QDialog& dialog)
 {
+    useApplicationLanguage();
     Ui::GenParamTreeView form;
     form.setupUi(&dialog);
     return form;

@@ -1,5 +1,6 @@
 #include "doubleslidergrid.h"
 
+#include "rounding.h"
 #include "stepgrid.h"
 
 #include <algorithm>
@@ -8,11 +9,6 @@
 namespace {
 
 constexpr double mostPositions = 1e9;
-
-double rounded(double value)
-{
-    return std::floor(value + 0.5);
-}
 
 } // namespace
 

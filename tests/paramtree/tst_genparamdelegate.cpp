@@ -61,6 +61,9 @@ std::unique_ptr<NodeMap> everyFeature()
     b.enumeration("Selector").in("Root").entries({"Red", "Blue"}).selects({"Gain"});
     b.integer("Gain").in("Root").limits(0, 9).valueAt({0}, 1).valueAt({1}, 7);
     b.integer("Count").in("Root").access(GenApi::RO);
+    b.integer("Room").in("Root").value(9);
+    b.integer("Guest").in("Root").limits(0, "Room").value(3);
+    b.floating("Weight").in("Root").notation(GenApi::fnFixed, 1).limits(0, "Room").increment(1).value(3);
     b.command("Reset").in("Root").onExecute([](NodeMap& map) { map.assign("Count", int64_t{8}); });
     return b.build();
 }
@@ -176,6 +179,8 @@ private slots:
     void showsSelectedFeaturesAtOnce();
     void keepsWhatIsTypedThroughChanges();
     void followsTheCameraWhileNothingIsTyped();
+    void followsLimitsAndChoicesWhileNothingIsTyped();
+    void showsNoTextThatCannotBeRead();
     void givesUpWhenTheFeatureBecomesReadOnly();
     void outlivesItsNodeMap();
     void survivesEveryFault();
@@ -395,6 +400,41 @@ void TestGenParamDelegate::followsTheCameraWhileNothingIsTyped()
     desk.map->assign("Mode", int64_t{9}); // no entry has this value
     QVERIFY(describe(editor).startsWith(QLatin1Char('{')));
     QCOMPARE(desk.writes.join(QLatin1Char(' ')), QString());
+}
+
+void TestGenParamDelegate::followsLimitsAndChoicesWhileNothingIsTyped()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowActive(&desk.view));
+    QWidget* editor = desk.open("Mode");
+    desk.map->setAccessMode("EnumEntry_Mode_Later", GenApi::RW);
+    QCOMPARE(describe(editor), QStringLiteral("Switched off{Switched off,Later,On}"));
+    for (const char* feature : {"Guest", "Weight"}) {
+        desk.map->assign("Room", int64_t{4});
+        editor = desk.open(feature);
+        desk.map->assign("Room", int64_t{6}); // the value itself stays
+        pressKeys(QStringLiteral("Up Up Up Up"));
+        QVERIFY2(describe(editor).startsWith(QLatin1String("#6")), qPrintable(describe(editor)));
+        pressKeys(QStringLiteral("Escape"));
+    }
+    QCOMPARE(desk.writes.join(QLatin1Char(' ')), QString());
+}
+
+void TestGenParamDelegate::showsNoTextThatCannotBeRead()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowActive(&desk.view));
+    QWidget* editor = desk.open("Label");
+    QCOMPARE(describe(editor), QStringLiteral("\"cam\""));
+    const QModelIndex label = desk.proxy.mapToSource(desk.cell("Label"));
+    desk.faults->setFilter([](const char* call, const GenApi::INode* node) {
+        return qstrcmp(call, "GetValue") == 0 && node && node->GetName() == "Label";
+    });
+    desk.faults->throwAt(0, FaultInjector::allFaults().front());
+    desk.model->refresh(0, {label});
+    QCOMPARE(describe(editor), QStringLiteral("\"\""));
+    desk.model->refresh(0, {label});
+    QCOMPARE(describe(editor), QStringLiteral("\"cam\""));
 }
 
 void TestGenParamDelegate::givesUpWhenTheFeatureBecomesReadOnly()

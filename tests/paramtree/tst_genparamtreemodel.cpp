@@ -205,6 +205,8 @@ void TestGenParamTreeModel::describesCells()
     QCOMPARE(int(valueCell(model, "Width").siblingAtColumn(0).flags()), 33);
     QCOMPARE(model.headerData(1, Qt::Vertical).toString(), QStringLiteral("Value"));
     QCOMPARE(model.headerData(2, Qt::Horizontal), QVariant());
+    QCOMPARE(model.headerData(1, Qt::Horizontal, Qt::ToolTipRole), QVariant());
+    QCOMPARE(model.columnCount(valueCell(model, "Width").siblingAtColumn(0)), 2);
 
     auto* feature = valueCell(model, "Width").data(Qt::UserRole).value<GenApi::IValue*>();
     QVERIFY(feature->GetNode()->GetName() == "Width");

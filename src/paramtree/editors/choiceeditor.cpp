@@ -14,6 +14,16 @@ ChoiceEditor::ChoiceEditor(const QVector<VariantData>& choices)
     connect(this, qOverload<int>(&QComboBox::currentIndexChanged), this, [this] { m_hasEdit = true; });
 }
 
+void ChoiceEditor::adopt(const ParamEditor& fresh)
+{
+    const auto* other = dynamic_cast<const ChoiceEditor*>(&fresh);
+    if (!other)
+        return;
+    clear();
+    for (int i = 0; i < other->count(); ++i)
+        add(other->itemData(i).value<VariantData>());
+}
+
 void ChoiceEditor::fill(const QModelIndex& index)
 {
     // A value that is none of the choices is still what the camera holds.

@@ -13,6 +13,7 @@ class ChoiceEditor : public QComboBox, public ParamEditor
 public:
     explicit ChoiceEditor(const QVector<VariantData>& choices);
 
+    void adopt(const ParamEditor& fresh) override;
     void fill(const QModelIndex& index) override;
     bool isBeingEdited() const override;
     QVariant takeEdit() override;

@@ -12,6 +12,12 @@ FloatEditor::FloatEditor(const FloatLimits& limits, int displayPrecision, const 
     setSuffix(unit);
 }
 
+void FloatEditor::adopt(const ParamEditor& fresh)
+{
+    if (const auto* other = dynamic_cast<const FloatEditor*>(&fresh))
+        m_limits = other->m_limits;
+}
+
 void FloatEditor::stepBy(int steps)
 {
     interpretText();

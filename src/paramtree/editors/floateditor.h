@@ -22,6 +22,7 @@ class FloatEditor : public NumberEditor<QDoubleSpinBox>
 public:
     FloatEditor(const FloatLimits& limits, int displayPrecision, const QString& unit);
 
+    void adopt(const ParamEditor& fresh) override;
     void stepBy(int steps) override;
     QString textFromValue(double value) const override;
     double valueFromText(const QString& text) const override;
@@ -35,6 +36,6 @@ protected:
 private:
     QString numberPart(const QString& text) const;
 
-    const FloatLimits m_limits;
+    FloatLimits m_limits;
     const int m_displayPrecision;
 };

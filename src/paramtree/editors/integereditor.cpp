@@ -9,6 +9,15 @@ IntegerEditor::IntegerEditor(const IntegerLimits& limits, int base, const QStrin
     setSingleStep(qMax(limits.increment, qint64{1}));
 }
 
+void IntegerEditor::adopt(const ParamEditor& fresh)
+{
+    const auto* other = dynamic_cast<const IntegerEditor*>(&fresh);
+    if (!other)
+        return;
+    m_limits = other->m_limits;
+    setSingleStep(other->singleStep());
+}
+
 void IntegerEditor::showValue(const QVariant& value)
 {
     const bool isNumber = value.userType() == QMetaType::LongLong;

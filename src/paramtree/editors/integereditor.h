@@ -20,10 +20,12 @@ class IntegerEditor : public NumberEditor<QtZetoSpinBoxVal64>
 public:
     IntegerEditor(const IntegerLimits& limits, int base, const QString& unit);
 
+    void adopt(const ParamEditor& fresh) override;
+
 protected:
     void showValue(const QVariant& value) override;
     QString complaintAbout(const QString& text) const override;
 
 private:
-    const IntegerLimits m_limits;
+    IntegerLimits m_limits;
 };

@@ -12,6 +12,10 @@ public:
     virtual ~ParamEditor() = default;
     Q_DISABLE_COPY(ParamEditor)
 
+    /// Takes over limits and choices from \a fresh, which the model has prepared anew for the same feature.
+    /// An editor of another kind is passed over. To be filled afterwards.
+    virtual void adopt(const ParamEditor& fresh) { static_cast<void>(fresh); }
+
     /// Shows what the model holds for the feature.
     virtual void fill(const QModelIndex& index) = 0;
 

@@ -11,11 +11,14 @@ public:
     /// \a maximumBytes counts in UTF-8; 0 is no limit.
     StringEditor(qint64 maximumBytes, bool hasValue);
 
+    void adopt(const ParamEditor& fresh) override;
+
 protected:
     QString toText(const QVariant& editValue) const override;
     QVariant toValue(const QString& text) const override;
     QString complaintAbout(const QString& text) const override;
 
 private:
-    const bool m_hasValue;
+    qint64 m_maximumBytes;
+    bool m_hasValue;
 };
