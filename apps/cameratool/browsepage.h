@@ -2,5 +2,5 @@
 
 #include "page.h"
 
-/// The feature browser over the node map of a camera description file, on a camera that is plain memory.
+/// The feature browser over a camera of the camera library or, on plain memory, a camera description file.
 std::unique_ptr<Page> makeBrowsePage(const Options& options);

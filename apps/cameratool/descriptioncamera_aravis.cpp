@@ -9,7 +9,7 @@ namespace {
 
 using ZetoAravis::DescriptionNodeMap;
 
-class AravisDescriptionCamera final : public DescriptionCamera
+class AravisDescriptionCamera final : public BrowsedCamera
 {
 public:
     explicit AravisDescriptionCamera(std::unique_ptr<DescriptionNodeMap> description)
@@ -41,7 +41,7 @@ std::unique_ptr<DescriptionNodeMap> openDemonstration()
 
 } // namespace
 
-std::unique_ptr<DescriptionCamera> openDescription(const QString& file)
+std::unique_ptr<BrowsedCamera> openDescription(const QString& file)
 {
     return std::make_unique<AravisDescriptionCamera>(
         file.isEmpty() ? openDemonstration() : DescriptionNodeMap::open(file.toStdString()));

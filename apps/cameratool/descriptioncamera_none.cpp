@@ -4,7 +4,7 @@
 
 #include <stdexcept>
 
-std::unique_ptr<DescriptionCamera> openDescription(const QString&)
+std::unique_ptr<BrowsedCamera> openDescription(const QString&)
 {
     throw std::runtime_error(
         QCoreApplication::translate(

@@ -1,6 +1,17 @@
 #include "browsepage.h"
+#include "camconfigpage.h"
+#include "configpage.h"
 #include "gallerypage.h"
 #include "rendering.h"
+#include "selectpage.h"
+#include "setippage.h"
+
+#include <ZetoCameraGuiApi/zetocamconfigcolordialog.h>
+#include <ZetoCameraGuiApi/zetocamconfigframeabdialog.h>
+#include <ZetoCameraGuiApi/zetocamconfigoutputdialog.h>
+#include <ZetoCameraGuiApi/zetocamconfigpulsedialog.h>
+#include <ZetoCameraGuiApi/zetocamconfigstrobedialog.h>
+#include <ZetoCameraGuiApi/zetocamconfigtriggerdialog.h>
 
 #include <QApplication>
 
@@ -10,8 +21,18 @@
 namespace {
 
 constexpr PageKind pageKinds[] = {
+    {"config", makeConfigPage},
+    {"about", makeAboutPage},
     {"browse", makeBrowsePage},
+    {"color", makeCamConfigPage<ZetoGui::ZetoCamConfigColorDialog>},
+    {"frameab", makeCamConfigPage<ZetoGui::ZetoCamConfigFrameABDialog>},
+    {"output", makeCamConfigPage<ZetoGui::ZetoCamConfigOutputDialog>},
+    {"pulse", makeCamConfigPage<ZetoGui::ZetoCamConfigPulseDialog>},
+    {"strobe", makeCamConfigPage<ZetoGui::ZetoCamConfigStrobeDialog>},
+    {"trigger", makeCamConfigPage<ZetoGui::ZetoCamConfigTriggerDialog>},
     {"widgets", makeGalleryPage},
+    {"select", makeSelectPage},
+    {"setip", makeSetIpPage},
 };
 
 QStringList pageNames()
@@ -51,6 +72,8 @@ int main(int argc, char** argv)
     const QApplication application(argc, argv);
 
     const Options options = readOptions(application, pageNames());
+    if (!options.cameras.isEmpty())
+        qputenv("ZETO_CAMERAS", options.cameras.toUtf8()); // the camera library's own setting
     if (options.dark) {
         QApplication::setStyle(QStringLiteral("Fusion"));
         QApplication::setPalette(darkPalette());

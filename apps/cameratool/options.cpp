@@ -25,12 +25,24 @@ Options readOptions(const QCoreApplication& application, const QStringList& page
 {
     const QCommandLineOption description(QStringLiteral("description"),
                                          tr("Camera description file to browse."), tr("file"));
+    const QCommandLineOption cameras(QStringLiteral("cameras"),
+                                     tr("Cameras to choose from: simulator, aravis or all."), tr("kinds"));
+    const QCommandLineOption camera(QStringLiteral("camera"),
+                                    tr("Camera to begin with, or none; otherwise the first one."), tr("id"));
+    const QCommandLineOption lost(QStringLiteral("lost"), tr("Lose the simulated camera at once."));
     const QCommandLineOption filter(QStringLiteral("filter"), tr("Show only features that match."),
                                     tr("pattern"));
     const QCommandLineOption visibility(QStringLiteral("visibility"), tr("basic, expert or guru."),
                                         tr("level"), visibilityNames.first());
     const QCommandLineOption expandAll(QStringLiteral("expand-all"), tr("Open every category."));
-    const QCommandLineOption noPolling(QStringLiteral("no-polling"), tr("Do not follow changing values."));
+    const QCommandLineOption editors(QStringLiteral("editors"),
+                                     tr("Open the editor of every feature shown."));
+    const QCommandLineOption noPolling(QStringLiteral("no-polling"),
+                                       tr("Do not follow changing values nor cameras that come and go."));
+    const QCommandLineOption address(QStringLiteral("address"), tr("Address in the IP dialog."),
+                                     tr("address"), QStringLiteral("192.168.10.2"));
+    const QCommandLineOption mask(QStringLiteral("mask"), tr("Subnet mask in the IP dialog."), tr("mask"),
+                                  QStringLiteral("255.255.255.0"));
     const QCommandLineOption dark(QStringLiteral("dark"), tr("Use a dark palette."));
     const QCommandLineOption render(QStringLiteral("render"), tr("Save a picture of the window and leave."),
                                     tr("folder"));
@@ -40,16 +52,23 @@ Options readOptions(const QCoreApplication& application, const QStringList& page
     parser.addHelpOption();
     parser.addPositionalArgument(QStringLiteral("window"),
                                  tr("One of: %1").arg(pages.join(QLatin1String(", "))));
-    parser.addOptions({description, filter, visibility, expandAll, noPolling, dark, render});
+    parser.addOptions({description, cameras, camera, lost, filter, visibility, expandAll, editors, noPolling,
+                       address, mask, dark, render});
     parser.process(application);
 
     Options options;
     options.page = parser.positionalArguments().value(0, pages.first());
     options.description = parser.value(description);
+    options.cameras = parser.value(cameras);
+    options.camera = parser.value(camera);
+    options.lost = parser.isSet(lost);
     options.filter = parser.value(filter);
     options.visibility = visibilityNames.indexOf(parser.value(visibility));
     options.expandAll = parser.isSet(expandAll);
+    options.editors = parser.isSet(editors);
     options.poll = !parser.isSet(noPolling);
+    options.address = parser.value(address);
+    options.mask = parser.value(mask);
     options.dark = parser.isSet(dark);
     options.renderDirectory = parser.value(render);
 

@@ -24,29 +24,29 @@ using Note = SampleGroup::Note;
 constexpr int logLines = 1000;
 constexpr int mostExposure = 1000000; // microseconds: a range that spans decades
 
-QString tr(const char* text)
+QString translated(const char* text)
 {
     return WidgetGallery::tr(text);
 }
 
 SampleGroup* make64BitSpinBoxes(const Note& note)
 {
-    auto* const group = new SampleGroup(tr("Spin box for 64 bits"), Qt::Horizontal, note);
-    auto* box = group->add<qint64>(tr("Whole range"), new QtZetoSpinBoxVal64);
+    auto* const group = new SampleGroup(translated("Spin box for 64 bits"), Qt::Horizontal, note);
+    auto* box = group->add<qint64>(translated("Whole range"), new QtZetoSpinBoxVal64);
     box->setRange(std::numeric_limits<qint64>::min(), std::numeric_limits<qint64>::max());
 
-    box = group->add<qint64>(tr("Hexadecimal"), new QtZetoSpinBoxVal64);
+    box = group->add<qint64>(translated("Hexadecimal"), new QtZetoSpinBoxVal64);
     box->setPrefix(QStringLiteral("0x"));
     box->setDisplayIntegerBase(16);
     box->setRange(0, 0xffffffff);
     box->setValue(0xc0ffee);
 
-    box = group->add<qint64>(tr("Grid of 16"), new QtZetoSpinBoxVal64);
+    box = group->add<qint64>(translated("Grid of 16"), new QtZetoSpinBoxVal64);
     box->setRange(0, 4096);
     box->setSingleStep(16);
     box->setSnapToStep(true);
 
-    box = group->add<qint64>(tr("Enter and release"), new QtZetoSpinBoxVal64);
+    box = group->add<qint64>(translated("Enter and release"), new QtZetoSpinBoxVal64);
     box->setRange(0, mostExposure);
     box->setSuffix(QStringLiteral(" us"));
     box->setKeyboardTracking(false);
@@ -57,20 +57,20 @@ SampleGroup* make64BitSpinBoxes(const Note& note)
 
 SampleGroup* makeSpinBoxes(const Note& note)
 {
-    auto* const group = new SampleGroup(tr("Spin boxes"), Qt::Horizontal, note);
-    group->add<int>(tr("Integer"), new QtZetoSpinBoxVal);
+    auto* const group = new SampleGroup(translated("Spin boxes"), Qt::Horizontal, note);
+    group->add<int>(translated("Integer"), new QtZetoSpinBoxVal);
 
-    auto* box = group->add<int>(tr("Grid of 8"), new QtZetoSpinBoxVal);
+    auto* box = group->add<int>(translated("Grid of 8"), new QtZetoSpinBoxVal);
     box->setRange(4, 99);
     box->setSingleStep(8);
     box->setSnapToStep(true);
 
-    group->add<int>(tr("Typing waits for Enter"), new QtZetoSpinBoxVal)->setAcceptWhileTyping(false);
+    group->add<int>(translated("Typing waits for Enter"), new QtZetoSpinBoxVal)->setAcceptWhileTyping(false);
 
-    auto* number = group->add<double>(tr("Double"), new QtZetoDoubleSpinBoxVal);
+    auto* number = group->add<double>(translated("Double"), new QtZetoDoubleSpinBoxVal);
     number->setSuffix(QStringLiteral(" dB"));
 
-    number = group->add<double>(tr("Grid of 0.25, Enter"), new QtZetoDoubleSpinBoxVal);
+    number = group->add<double>(translated("Grid of 0.25, Enter"), new QtZetoDoubleSpinBoxVal);
     number->setSingleStep(0.25);
     number->setSnapToStep(true);
     number->setAcceptWhileTyping(false);
@@ -88,16 +88,17 @@ QtZetoSlider* addSlider(SampleGroup* group, const QString& sample, Qt::Orientati
 
 SampleGroup* makeSliders(const Note& note)
 {
-    auto* const group = new SampleGroup(tr("Sliders"), Qt::Horizontal, note);
-    addSlider(group, tr("Linear"), Qt::Horizontal, QtZetoSlider::Linear, 100)->setValue(50);
-    auto* const grid = addSlider(group, tr("Grid of 10"), Qt::Horizontal, QtZetoSlider::Linear, 96);
+    auto* const group = new SampleGroup(translated("Sliders"), Qt::Horizontal, note);
+    addSlider(group, translated("Linear"), Qt::Horizontal, QtZetoSlider::Linear, 100)->setValue(50);
+    auto* const grid = addSlider(group, translated("Grid of 10"), Qt::Horizontal, QtZetoSlider::Linear, 96);
     grid->setSingleStep(10);
     grid->setSnapToStep(true);
-    addSlider(group, tr("Logarithmic"), Qt::Horizontal, QtZetoSlider::Logarithmic, mostExposure)
+    addSlider(group, translated("Logarithmic"), Qt::Horizontal, QtZetoSlider::Logarithmic, mostExposure)
         ->setValue(1000);
-    addSlider(group, tr("Square root"), Qt::Horizontal, QtZetoSlider::SquareRoot, mostExposure)
+    addSlider(group, translated("Square root"), Qt::Horizontal, QtZetoSlider::SquareRoot, mostExposure)
         ->setValue(1000);
-    auto* const number = group->addSlider<double>(tr("Double"), new QtZetoDoubleSlider(Qt::Horizontal));
+    auto* const number =
+        group->addSlider<double>(translated("Double"), new QtZetoDoubleSlider(Qt::Horizontal));
     number->setSingleStep(0.25);
     number->setRange(-6.0, 24.1);
     return group;
@@ -105,15 +106,16 @@ SampleGroup* makeSliders(const Note& note)
 
 SampleGroup* makeUprightSliders(const Note& note)
 {
-    auto* const group = new SampleGroup(tr("Upright"), Qt::Vertical, note);
-    addSlider(group, tr("Linear"), Qt::Vertical, QtZetoSlider::Linear, 100)->setValue(50);
-    addSlider(group, tr("Logarithmic"), Qt::Vertical, QtZetoSlider::Logarithmic, mostExposure)
+    auto* const group = new SampleGroup(translated("Upright"), Qt::Vertical, note);
+    addSlider(group, translated("Linear"), Qt::Vertical, QtZetoSlider::Linear, 100)->setValue(50);
+    addSlider(group, translated("Logarithmic"), Qt::Vertical, QtZetoSlider::Logarithmic, mostExposure)
         ->setValue(1000);
-    addSlider(group, tr("Square root"), Qt::Vertical, QtZetoSlider::SquareRoot, mostExposure)->setValue(1000);
-    auto* const number = group->addSlider<double>(tr("Double"), new QtZetoDoubleSlider);
+    addSlider(group, translated("Square root"), Qt::Vertical, QtZetoSlider::SquareRoot, mostExposure)
+        ->setValue(1000);
+    auto* const number = group->addSlider<double>(translated("Double"), new QtZetoDoubleSlider);
     number->setSingleStep(0.25);
     number->setRange(-6.0, 24.1);
-    auto* const composite = group->add<int>(tr("With spin box"), new QtZetoSliderSpinBox);
+    auto* const composite = group->add<int>(translated("With spin box"), new QtZetoSliderSpinBox);
     composite->setOrientation(Qt::Vertical);
     composite->setValue(25);
     return group;
@@ -121,42 +123,42 @@ SampleGroup* makeUprightSliders(const Note& note)
 
 SampleGroup* makePopups(const Note& note)
 {
-    auto* const group = new SampleGroup(tr("Spin box with popup slider"), Qt::Horizontal, note);
-    group->add<int>(tr("Upright popup"), new QtZetoSpinBox)->setValue(50);
+    auto* const group = new SampleGroup(translated("Spin box with popup slider"), Qt::Horizontal, note);
+    group->add<int>(translated("Upright popup"), new QtZetoSpinBox)->setValue(50);
 
-    auto* box = group->add<int>(tr("Logarithmic"), new QtZetoSpinBox);
+    auto* box = group->add<int>(translated("Logarithmic"), new QtZetoSpinBox);
     box->setOrientation(Qt::Horizontal);
     box->slider()->setScaleMode(QtZetoSlider::Logarithmic);
     box->setRange(0, mostExposure);
     box->setValue(1000);
 
-    box = group->add<int>(tr("Enter and release"), new QtZetoSpinBox);
+    box = group->add<int>(translated("Enter and release"), new QtZetoSpinBox);
     box->setOrientation(Qt::Horizontal);
     box->setKeyboardTracking(false);
     box->setCommitsOnRelease(true);
-    box->setLabelLeft(tr("&Threshold:"));
+    box->setLabelLeft(translated("&Threshold:"));
 
-    box = group->add<int>(tr("Both labels"), new QtZetoSpinBox);
-    box->setLabelUpper(tr("Pulse"));
-    box->setLabelLeft(tr("&Width:"));
+    box = group->add<int>(translated("Both labels"), new QtZetoSpinBox);
+    box->setLabelUpper(translated("Pulse"));
+    box->setLabelLeft(translated("&Width:"));
     return group;
 }
 
 SampleGroup* makeSliderRows(const Note& note)
 {
-    auto* const group = new SampleGroup(tr("Spin box beside slider"), Qt::Horizontal, note);
-    group->add<int>(tr("Linear"), new QtZetoSliderSpinBox)->setValue(50);
+    auto* const group = new SampleGroup(translated("Spin box beside slider"), Qt::Horizontal, note);
+    group->add<int>(translated("Linear"), new QtZetoSliderSpinBox)->setValue(50);
 
-    auto* const delay = group->add<int>(tr("Logarithmic"), new QtZetoSliderSpinBox);
+    auto* const delay = group->add<int>(translated("Logarithmic"), new QtZetoSliderSpinBox);
     delay->slider()->setScaleMode(QtZetoSlider::Logarithmic);
     delay->setRange(0, mostExposure);
-    delay->setLabelLeft(tr("&Delay:"));
+    delay->setLabelLeft(translated("&Delay:"));
     delay->setValue(1000);
 
-    auto* const gain = group->add<double>(tr("Gain"), new QtZetoGainSlider);
+    auto* const gain = group->add<double>(translated("Gain"), new QtZetoGainSlider);
     gain->setSingleStep(0.1);
     gain->setRange(0.0, 24.0);
-    gain->setLabelUpper(tr("Analog gain"));
+    gain->setLabelUpper(translated("Analog gain"));
     gain->setValue(1.5);
     return group;
 }
@@ -168,13 +170,13 @@ WidgetGallery::WidgetGallery(QWidget* parent)
     , m_log(new QPlainTextEdit(this))
     , m_samples(makeSamples())
 {
-    setWindowTitle(tr("Value widgets"));
+    setWindowTitle(translated("Value widgets"));
     m_log->clear(); // the making of the samples is not of interest
     m_log->setReadOnly(true);
     m_log->setLineWrapMode(QPlainTextEdit::NoWrap);
     m_log->setMaximumBlockCount(logLines);
-    m_log->setPlaceholderText(tr("Signals appear here"));
-    m_log->setAccessibleName(tr("Signals"));
+    m_log->setPlaceholderText(translated("Signals appear here"));
+    m_log->setAccessibleName(translated("Signals"));
 
     auto* const side = new QVBoxLayout;
     side->addWidget(makeSwitches());
@@ -203,9 +205,9 @@ QWidget* WidgetGallery::makeSamples()
 QWidget* WidgetGallery::makeSwitches()
 {
     auto* const switches = new QWidget(this);
-    auto* const enabled = new QCheckBox(tr("&Enabled"), switches);
-    auto* const rightToLeft = new QCheckBox(tr("&Right to left"), switches);
-    auto* const clear = new QPushButton(tr("&Clear"), switches);
+    auto* const enabled = new QCheckBox(translated("&Enabled"), switches);
+    auto* const rightToLeft = new QCheckBox(translated("&Right to left"), switches);
+    auto* const clear = new QPushButton(translated("&Clear"), switches);
     enabled->setChecked(true);
     rightToLeft->setChecked(isRightToLeft());
     connect(enabled, &QCheckBox::toggled, m_samples, &QWidget::setEnabled);
@@ -224,5 +226,5 @@ QWidget* WidgetGallery::makeSwitches()
 
 void WidgetGallery::note(const QString& sample, const QString& signal)
 {
-    m_log->appendPlainText(tr("%1: %2").arg(sample, signal));
+    m_log->appendPlainText(translated("%1: %2").arg(sample, signal));
 }

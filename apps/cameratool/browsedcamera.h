@@ -1,0 +1,17 @@
+#pragma once
+
+#include <GenApi/GenApi.h>
+
+#include <QString>
+
+/// A camera to browse, real or not.
+class BrowsedCamera
+{
+public:
+    virtual ~BrowsedCamera() = default;
+
+    /// Lives as long as the camera.
+    virtual GenApi::INodeMap& nodeMap() const = 0;
+    /// What a person calls it.
+    virtual QString name() const = 0;
+};
