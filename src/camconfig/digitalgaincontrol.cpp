@@ -4,6 +4,7 @@
 #include "paramerror.h"
 #include "qtzetodoublespinboxval.h"
 #include "qtzetogainslider.h"
+#include "zetocamconfigmapper.h"
 
 #include <QScopedValueRollback>
 
@@ -12,8 +13,9 @@
 
 namespace ZetoGui {
 
-DigitalGainControl::DigitalGainControl(QtZetoGainSlider* slider)
+DigitalGainControl::DigitalGainControl(QtZetoGainSlider* slider, const ZetoCamConfigMapper& mapper)
     : m_slider(slider)
+    , m_mapper(mapper)
 {
     m_slider->setSingleStep(DigitalGain().step());
     m_slider->spinBox()->setKeyboardTracking(false);
@@ -58,7 +60,7 @@ void DigitalGainControl::take(double factor)
     if (m_showing || !isOffered())
         return;
     const DigitalGain wanted = m_range.towards(factor, m_present);
-    if (wanted == m_present)
+    if (wanted == m_present || m_mapper.IsRefreshing())
         show();
     else
         write(wanted);

@@ -10,11 +10,13 @@ class QtZetoGainSlider;
 
 namespace ZetoGui {
 
+class ZetoCamConfigMapper;
+
 /// Shows the two features of the digital gain as one factor and writes what is entered to both.
 class DigitalGainControl : public QObject
 {
 public:
-    explicit DigitalGainControl(QtZetoGainSlider* slider);
+    DigitalGainControl(QtZetoGainSlider* slider, const ZetoCamConfigMapper& mapper);
 
     /// Shows the gain that \a coarse and \a fine make, null for a feature that the camera lacks, and writes
     /// edits as long as \a binding lives.
@@ -34,6 +36,7 @@ private:
     void write(const DigitalGain& gain);
 
     QtZetoGainSlider* const m_slider;
+    const ZetoCamConfigMapper& m_mapper;
     ZetoGenParam::Int* m_coarse = nullptr;
     ZetoGenParam::Int* m_fine = nullptr;
     DigitalGain m_present;

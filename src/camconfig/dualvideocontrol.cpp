@@ -5,6 +5,7 @@
 #include "intview.h"
 #include "paramaccess.h"
 #include "paramerror.h"
+#include "zetocamconfigmapper.h"
 
 #include <QScopedValueRollback>
 #include <QSpinBox>
@@ -14,8 +15,9 @@
 
 namespace ZetoGui {
 
-DualVideoControl::DualVideoControl(QSpinBox* spinBox)
+DualVideoControl::DualVideoControl(QSpinBox* spinBox, const ZetoCamConfigMapper& mapper)
     : m_spinBox(spinBox)
+    , m_mapper(mapper)
 {
 }
 
@@ -50,6 +52,10 @@ void DualVideoControl::take(int lineTime)
 {
     if (m_showing || !isOffered())
         return;
+    if (m_mapper.IsRefreshing()) {
+        show();
+        return;
+    }
     int32_t code = m_lineTime->SetValue(lineTime);
     if (code == ZetoCam::Success && m_selector)
         code = writeToOtherFrame(lineTime);

@@ -17,6 +17,7 @@ FeatureDialog::FeatureDialog(QDialog* dialog)
 
 FeatureDialog::~FeatureDialog()
 {
+    m_connections.reset(); // the rules of the derived class are gone
     mapper.Clear(array);
     mapper.Clear(nullptr);
 }
@@ -76,9 +77,9 @@ void FeatureDialog::build()
 void FeatureDialog::unbind()
 {
     m_watch.clear();
+    m_connections = std::make_unique<QObject>(); // no rule runs on what is being unbound
     mapper.Clear(array);
     array = nullptr;
-    m_connections = std::make_unique<QObject>();
     for (const QPointer<QWidget>& widget : qAsConst(m_described)) {
         if (widget)
             widget->setToolTip({});

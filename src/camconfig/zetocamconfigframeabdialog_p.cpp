@@ -48,8 +48,8 @@ int64_t ZetoCamConfigFrameABDialogPrivate::FromWidget(int64_t value, ZetoGenPara
 void ZetoCamConfigFrameABDialogPrivate::buildForm()
 {
     FeatureDialogWithForm::buildForm();
-    m_gain = std::make_unique<DigitalGainControl>(ui.spBoxDigitalGain);
-    m_dualVideo = std::make_unique<DualVideoControl>(ui.spBoxDualVideo);
+    m_gain = std::make_unique<DigitalGainControl>(ui.spBoxDigitalGain, mapper);
+    m_dualVideo = std::make_unique<DualVideoControl>(ui.spBoxDualVideo, mapper);
     m_size = std::make_unique<FrameSizeControl>(
         FrameSizeControl::Buttons{ui.radioBtnFullFrame, ui.radioBtnQFHDFrame, ui.radioBtnCustomFrame});
     m_exposure = std::make_unique<ExposureTimeControl>(

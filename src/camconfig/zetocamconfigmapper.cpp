@@ -214,8 +214,10 @@ void ZetoCamConfigMapper::unbind(const QObject* widget)
     m_bindings.erase(bound);
 }
 
+/// A widget that is disabled commits what is half typed: nobody's edit any more.
 void ZetoCamConfigMapper::release(const Bindings& feature)
 {
+    const QScopedValueRollback<bool> guard(m_refreshing, true);
     for (const Binding& binding : feature) {
         const QList<QWidget*> widgets = widgetsOf(binding.target);
         for (QWidget* const widget : widgets)

@@ -81,6 +81,9 @@ public:
     /// a widget takes back what its rules said.
     void SetAllowed(QWidget* widget, bool allowed);
 
+    /// Whether a widget's signal comes of what the camera told rather than of an edit.
+    bool IsRefreshing() const { return m_refreshing; }
+
     /// Calls \a visit for the main widget of each bound feature, for a group for each of its buttons.
     void ForEachWidget(const std::function<void(const QString& featureName, QWidget* widget)>& visit) const;
 
