@@ -41,12 +41,15 @@ void InfoView::setLines(const QVector<InfoLine>& lines)
 {
     QAbstractItemModel* const former = model();
     const int nameWidth = former ? columnWidth(NameColumn) : header()->defaultSectionSize();
+    const bool isChosen = former && nameWidth != m_fittedWidth;
     auto* const next = new QStandardItemModel(0, ColumnCount, this);
     next->setHorizontalHeaderLabels({tr("Name"), tr("Value")});
     for (const InfoLine& line : lines)
         next->appendRow(itemsOf(line));
     setModel(next);
-    setColumnWidth(NameColumn, std::max(nameWidth, sizeHintForColumn(NameColumn)));
+    if (!isChosen)
+        m_fittedWidth = std::max(nameWidth, sizeHintForColumn(NameColumn));
+    setColumnWidth(NameColumn, isChosen ? nameWidth : m_fittedWidth);
     if (former)
         former->deleteLater();
 }

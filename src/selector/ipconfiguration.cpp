@@ -38,6 +38,7 @@ bool isMeant(QWidget* parent)
         SelectorTexts::tr("Specified IP Configuraion is not correct, camera may become undiscoverable\n"
                           "Press OK to skip the IP Configuration, or press Ignore to confirm"),
         QMessageBox::Ok | QMessageBox::Ignore, parent);
+    question->setEscapeButton(QMessageBox::Ok);
     return question->exec() == QMessageBox::Ignore;
 }
 

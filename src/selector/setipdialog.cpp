@@ -1,6 +1,7 @@
 #include "setipdialog.h"
 
 #include "addresstext.h"
+#include "applicationlanguage.h"
 #include "camerainfo.h"
 #include "ip4validator.h"
 #include "subnetcheck.h"
@@ -42,6 +43,7 @@ SetIpDialog::SetIpDialog(QWidget* parent)
     : QDialog(parent)
     , m_ui(std::make_unique<Ui::SetIpDialog>())
 {
+    ZetoGui::useApplicationLanguage();
     m_ui->setupUi(this);
     auto* const validator = new IP4Validator(this);
     for (QLineEdit* field : {m_ui->ipAddressLineEdit, m_ui->subnetMaskLineEdit, m_ui->defaultGatewayLineEdit})

@@ -215,10 +215,10 @@ void TestZetoCameraSelectorDialog::keepsColumnWidth()
     Shown shown;
     InfoView& view = shown.selector.cameraInfo();
     QVERIFY(view.columnWidth(0) >= 130);
-    view.setColumnWidth(0, 171);
+    view.setColumnWidth(0, 71);
     for (const char* id : {"sim.gev0.dual", "sim.gev0", "sim.u3v0.plain"}) {
         shown.selector.select(id);
-        QCOMPARE(view.columnWidth(0), 171);
+        QCOMPARE(view.columnWidth(0), 71);
     }
 }
 
