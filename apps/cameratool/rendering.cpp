@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QPixmap>
+#include <QScreen>
 #include <QWidget>
 
 namespace {
@@ -44,6 +45,9 @@ QPalette darkPalette()
 
 bool renderWindow(QWidget& window, const QString& folder, const QString& name)
 {
+    const QSize screen = window.screen()->availableSize();
+    if (window.sizeHint().boundedTo(screen) != window.sizeHint())
+        window.setAttribute(Qt::WA_DontShowOnScreen); // a picture shows all of it, too
     window.show();
     settle();
     const QString file = QDir(folder).filePath(name + QLatin1String(".png"));

@@ -19,7 +19,6 @@ QSize shownSize(QDialog& dialog)
 {
     dialog.setAttribute(Qt::WA_DontShowOnScreen, true);
     dialog.show();
-    dialog.layout()->activate();
     dialog.hide();
     dialog.setAttribute(Qt::WA_DontShowOnScreen, false);
     return dialog.size();

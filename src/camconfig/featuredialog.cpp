@@ -2,6 +2,7 @@
 
 #include "applicationlanguage.h"
 #include "featuretooltip.h"
+#include "screenfit.h"
 
 #include <QKeyEvent>
 #include <QLayout>
@@ -51,9 +52,12 @@ void FeatureDialog::describe()
     });
 }
 
-/// Escape closes the window as its frame does: QDialog would only hide it.
+/// Escape closes the window as its frame does: QDialog would only hide it. It finds its place when it is
+/// shown, by its size.
 bool FeatureDialog::eventFilter(QObject* watched, QEvent* event)
 {
+    if (event->type() == QEvent::Show && !event->spontaneous())
+        fitToScreen(*dialog);
     if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->matches(QKeySequence::Cancel)) {
         dialog->close();
         return true;

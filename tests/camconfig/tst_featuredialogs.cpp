@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QtTest>
 
 /// What all feature dialogs have in common, for each of them.
@@ -89,6 +90,8 @@ void TestFeatureDialogs::shows_any_camera_or_none()
         QVERIFY(dialog->isEnabled());
         QCOMPARE(dialog->layout()->sizeConstraint(), QLayout::SetFixedSize);
         QCOMPARE(fixture.takeWrites(), QStringList());
+        dialog->show();
+        QVERIFY(dialog->width() <= dialog->screen()->availableSize().width());
         const auto buttons = dialog->findChildren<QPushButton*>();
         for (const QPushButton* const button : buttons)
             QVERIFY2(!button->autoDefault(), "Enter in a field would press it");
