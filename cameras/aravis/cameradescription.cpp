@@ -88,16 +88,11 @@ const TagRole* roleOf(std::string_view tag)
     return found == linkRoles.end() ? nullptr : found;
 }
 
-/// In bytes. Beyond it the library fails for lack of memory, which ends the process.
-constexpr std::int64_t maximumBlockLength = 1 << 24;
-
 bool isPossibleLength(std::int64_t length, const DescriptionNode& node)
 {
-    if (node.kind == NodeKind::Integer)
-        return length >= 1 && length <= 8;
     if (node.kind == NodeKind::Float)
         return length == 4 || length == 8;
-    return length >= 1 && length <= maximumBlockLength;
+    return length >= 1 && length <= greatestLength(node.element->name);
 }
 
 /// \return what makes a register unfit to be read, empty if nothing does.
@@ -121,6 +116,13 @@ std::string symbolicOf(const XmlElement& entry)
 bool isReadForValue(LinkRole role)
 {
     return role <= LinkRole::CommandValue;
+}
+
+std::int64_t greatestLength(std::string_view tag)
+{
+    constexpr std::int64_t ofNumber = 8;
+    constexpr std::int64_t ofBlock = 1 << 24;
+    return tag == "StringReg" || tag == "Register" ? ofBlock : ofNumber;
 }
 
 const XmlElement* DescriptionNode::property(std::string_view tag) const

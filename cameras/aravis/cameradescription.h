@@ -54,6 +54,10 @@ enum class LinkRole
 /// Whether the link is followed to compute a value.
 bool isReadForValue(LinkRole role);
 
+/// The most bytes that a register has which an element called \a tag states. The library takes memory for as
+/// many as it is told, and ends the process where it gets none.
+std::int64_t greatestLength(std::string_view tag);
+
 struct Link
 {
     LinkRole role;

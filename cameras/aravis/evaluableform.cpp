@@ -9,6 +9,7 @@ namespace ZetoAravis {
 namespace {
 
 constexpr const char* conditionPrefix = "ZetoIsOn_"; // 1 while the boolean is on, for formulas
+constexpr const char* lengthPrefix = "ZetoLength_";  // a length of registers, within what they can have
 constexpr const char* storagePrefix = "ZetoStored_"; // what a boolean holds that states its value itself
 
 XmlElement makeElement(const std::string& tag, const std::string& text)
@@ -21,14 +22,25 @@ XmlElement makeNode(const std::string& tag, const std::string& name, std::vector
     return {tag, {{"Name", name}}, {}, std::move(properties)};
 }
 
+/// The integer \a name that is computed from the node \a source, VALUE in the \a formula.
+XmlElement makeFormula(const std::string& name, const std::string& source, const std::string& formula)
+{
+    XmlElement variable = makeElement("pVariable", source);
+    variable.attributes.emplace_back("Name", "VALUE");
+    return makeNode("IntSwissKnife", name, {variable, makeElement("Formula", formula)});
+}
+
 XmlElement makeCondition(const DescriptionNode& boolean)
 {
     const std::string holder = boolean.has("pValue") ? boolean.text("pValue") : storagePrefix + boolean.name;
     const std::string onValue = boolean.has("OnValue") ? boolean.text("OnValue") : "1";
-    XmlElement variable = makeElement("pVariable", holder);
-    variable.attributes.emplace_back("Name", "VALUE");
-    return makeNode("IntSwissKnife", conditionPrefix + boolean.name,
-                    {variable, makeElement("Formula", "(VALUE = " + onValue + ") ? 1 : 0")});
+    return makeFormula(conditionPrefix + boolean.name, holder, "(VALUE = " + onValue + ") ? 1 : 0");
+}
+
+XmlElement makeLength(const std::string& name, const std::string& source, std::int64_t greatest)
+{
+    const std::string most = std::to_string(greatest);
+    return makeFormula(name, source, "(VALUE < 1) ? 1 : ((VALUE > " + most + ") ? " + most + " : VALUE)");
 }
 
 class Rewriter
@@ -47,8 +59,11 @@ public:
             moveValueOut(element);
         else if (element.name == "pVariable")
             replaceBoolean(element);
-        for (XmlElement& child : element.children)
+        for (XmlElement& child : element.children) {
+            if (child.name == "pLength")
+                boundLength(child, greatestLength(element.name));
             rewrite(child);
+        }
     }
 
     void appendHelpersTo(XmlElement& root)
@@ -86,8 +101,19 @@ private:
         variable.text.insert(0, conditionPrefix);
     }
 
+    void boundLength(XmlElement& length, std::int64_t greatest)
+    {
+        if (m_description.find(length.text) == CameraDescription::noNode)
+            return;
+        const std::string name = lengthPrefix + std::to_string(greatest) + '_' + length.text;
+        if (m_lengths.insert(name).second)
+            m_helpers.push_back(makeLength(name, length.text, greatest));
+        length.text = name;
+    }
+
     const CameraDescription& m_description;
     std::set<int> m_inFormulas;
+    std::set<std::string> m_lengths;
     std::vector<XmlElement> m_helpers;
 };
 
