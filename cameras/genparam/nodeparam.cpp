@@ -8,6 +8,7 @@ namespace ZetoGenParam {
 
 NodeParam::NodeParam(INode& node, ParamType type)
     : m_node(node)
+    , m_lock(node.GetNodeMap()->GetLock())
     , m_type(type)
     , m_name(node.GetName().c_str())
 {
@@ -62,11 +63,6 @@ int32_t NodeParam::UnregisterEventSink(ParamEventSink* sink)
         const AutoLock guard(lock());
         m_sinks.remove(sink);
     });
-}
-
-CLock& NodeParam::lock() const
-{
-    return m_node.GetNodeMap()->GetLock();
 }
 
 void NodeParam::onNodeChanged(INode*)

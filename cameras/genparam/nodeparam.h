@@ -30,13 +30,14 @@ public:
 
 protected:
     /// The lock that serves the calls on a node map one after the other; a thread may take it again.
-    GENAPI_NAMESPACE::CLock& lock() const;
+    GENAPI_NAMESPACE::CLock& lock() const { return m_lock; }
 
 private:
     void onNodeChanged(GENAPI_NAMESPACE::INode*);
     GENAPI_NAMESPACE::EAccessMode accessMode() const;
 
     GENAPI_NAMESPACE::INode& m_node;
+    GENAPI_NAMESPACE::CLock& m_lock;
     const ParamType m_type;
     const std::string m_name;
     ListenerList<ParamEventSink*> m_sinks; ///< guarded by lock()

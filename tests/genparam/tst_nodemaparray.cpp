@@ -22,16 +22,12 @@ class TestNodeMapArray : public QObject
 
 private slots:
     void init();
-    void cleanup();
 
-    void finds_parameters_by_name_and_type_data();
     void finds_parameters_by_name_and_type();
     void reports_what_a_node_throws_as_a_code_data();
     void reports_what_a_node_throws_as_a_code();
-    void keeps_64_bits_data();
     void keeps_64_bits();
     void refuses_integers_off_limits();
-    void chooses_entries_data();
     void chooses_entries();
     void knows_a_value_without_an_entry();
     void reads_and_writes_other_kinds();
@@ -42,6 +38,9 @@ private slots:
 private:
     std::unique_ptr<NodeMap> m_map;
     std::unique_ptr<ZetoGenParam::NodeMapArray> m_array;
+    ZetoGenParam::Int* m_width = nullptr;
+    ZetoGenParam::Enum* m_mode = nullptr;
+    QString m_protocol;
 };
 
 namespace {
@@ -94,45 +93,37 @@ std::unique_ptr<NodeMap> makeMap()
 
 void TestNodeMapArray::init()
 {
+    m_array.reset();
     m_map = makeMap();
     m_array = std::make_unique<ZetoGenParam::NodeMapArray>(*m_map);
-}
-
-void TestNodeMapArray::cleanup()
-{
-    m_array.reset();
-    m_map.reset();
-}
-
-void TestNodeMapArray::finds_parameters_by_name_and_type_data()
-{
-    QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<int>("type");
-    QTest::addColumn<int>("codeAsInt");
-    QTest::addColumn<int>("codeAsEnum");
-    QTest::newRow("integer") << QByteArray("Width") << int(ZetoGenParam::TypeInt) << 0 << -40203;
-    QTest::newRow("enumeration") << QByteArray("Mode") << int(ZetoGenParam::TypeEnum) << -40203 << 0;
-    QTest::newRow("category") << QByteArray("Root") << int(ZetoGenParam::TypeUnknown) << -40203 << -40203;
-    QTest::newRow("unknown") << QByteArray("Nope") << -1 << -40205 << -40205;
-    QTest::newRow("null") << QByteArray() << -1 << -40205 << -40205;
+    m_width = m_array->GetInt("Width", nullptr);
+    m_mode = m_array->GetEnum("Mode", nullptr);
+    m_protocol.clear();
 }
 
 void TestNodeMapArray::finds_parameters_by_name_and_type()
 {
-    QFETCH(QByteArray, name);
-    QFETCH(int, type);
-    const char* text = name.isNull() ? nullptr : name.constData();
-    int32_t code = 1;
-    ZetoGenParam::Param* param = m_array->GetParam(text, &code);
-    QCOMPARE(param ? param->GetType() : -1, type);
-    QCOMPARE(code, param ? 0 : -40205);
-    const bool isInt = m_array->GetInt(text, &code);
-    QCOMPARE(isInt, code == 0);
-    QTEST(code, "codeAsInt");
-    const bool isEnum = m_array->GetEnum(text, &code);
-    QCOMPARE(isEnum, code == 0);
-    QTEST(code, "codeAsEnum");
-    QCOMPARE(m_array->GetParam(text, nullptr), param);
+    struct Expected
+    {
+        const char* name;
+        int type, code, codeAsInt, codeAsEnum;
+    };
+    const Expected all[] = {{"Width", ZetoGenParam::TypeInt, 0, 0, -40203},
+                            {"Mode", ZetoGenParam::TypeEnum, 0, -40203, 0},
+                            {"Root", ZetoGenParam::TypeUnknown, 0, -40203, -40203},
+                            {"Nope", -1, -40205, -40205, -40205},
+                            {nullptr, -1, -40205, -40205, -40205}};
+    for (const Expected& expected : all) {
+        int32_t code = 1;
+        ZetoGenParam::Param* param = m_array->GetParam(expected.name, &code);
+        QCOMPARE(param ? param->GetType() : -1, expected.type);
+        QCOMPARE(code, expected.code);
+        QCOMPARE(m_array->GetInt(expected.name, &code) == nullptr, expected.codeAsInt != 0);
+        QCOMPARE(code, expected.codeAsInt);
+        QCOMPARE(m_array->GetEnum(expected.name, &code) == nullptr, expected.codeAsEnum != 0);
+        QCOMPARE(code, expected.codeAsEnum);
+        QCOMPARE(m_array->GetParam(expected.name, nullptr), param);
+    }
 }
 
 void TestNodeMapArray::reports_what_a_node_throws_as_a_code_data()
@@ -157,84 +148,71 @@ void TestNodeMapArray::reports_what_a_node_throws_as_a_code_data()
 void TestNodeMapArray::reports_what_a_node_throws_as_a_code()
 {
     QFETCH(std::function<void()>, fail);
-    ZetoGenParam::Int* width = m_array->GetInt("Width", nullptr);
+    ZetoGenParam::String* name = m_array->GetString("Name", nullptr);
     m_map->setAccessHook([fail](const char*, const GenApi::INode*) { fail(); });
-    QTEST(width->SetValue(64), "code");
+    QTEST(m_width->SetValue(64), "code");
     int32_t code = 0;
-    QCOMPARE(width->GetValue(&code), int64_t{0});
+    QCOMPARE(m_width->GetValue(&code), int64_t{0});
     QTEST(code, "code");
-    QVERIFY(!width->IsWritable());
+    QCOMPARE(name->GetValue(&code), "");
+    QTEST(code, "code");
+    QVERIFY(!m_width->IsWritable());
     m_map->setAccessHook({});
-    QCOMPARE(width->GetValue(nullptr), int64_t{640});
-}
-
-void TestNodeMapArray::keeps_64_bits_data()
-{
-    QTest::addColumn<qint64>("value");
-    QTest::newRow("least") << std::numeric_limits<qint64>::min();
-    QTest::newRow("most") << std::numeric_limits<qint64>::max();
-    QTest::newRow("no double") << (qint64{1} << 53) + 1;
+    QCOMPARE(m_width->GetValue(nullptr), int64_t{640});
 }
 
 void TestNodeMapArray::keeps_64_bits()
 {
-    QFETCH(qint64, value);
+    using Limits = std::numeric_limits<int64_t>;
     ZetoGenParam::Int* whole = m_array->GetInt("Whole", nullptr);
-    QCOMPARE(whole->SetValue(value), 0);
-    int32_t code = 1;
-    QCOMPARE(qint64{whole->GetValue(&code)}, value);
-    QCOMPARE(code, 0);
-    QCOMPARE(qint64{whole->GetMin(nullptr)}, std::numeric_limits<qint64>::min());
-    QCOMPARE(qint64{whole->GetMax(nullptr)}, std::numeric_limits<qint64>::max());
+    for (const int64_t value : {Limits::min(), Limits::max(), (int64_t{1} << 53) + 1}) {
+        QCOMPARE(whole->SetValue(value), 0);
+        QCOMPARE(whole->GetValue(nullptr), value);
+    }
+    QCOMPARE(whole->GetMin(nullptr), Limits::min());
+    QCOMPARE(whole->GetMax(nullptr), Limits::max());
 }
 
 void TestNodeMapArray::refuses_integers_off_limits()
 {
-    ZetoGenParam::Int* width = m_array->GetInt("Width", nullptr);
-    QCOMPARE(width->GetIncrement(nullptr), int64_t{4});
-    QCOMPARE(width->SetValue(4100), -40204);
-    QCOMPARE(width->SetValue(642), -40204);
+    QCOMPARE(m_width->GetIncrement(nullptr), int64_t{4});
+    QCOMPARE(m_width->SetValue(4100), -40204);
+    QCOMPARE(m_width->SetValue(642), -40204);
     QCOMPARE(m_array->GetInt("Fixed", nullptr)->SetValue(2), -40202);
-    QCOMPARE(width->GetValue(nullptr), int64_t{640});
-}
-
-void TestNodeMapArray::chooses_entries_data()
-{
-    QTest::addColumn<QByteArray>("symbolic");
-    QTest::addColumn<int>("value");
-    QTest::addColumn<int>("code");
-    QTest::newRow("there") << QByteArray("On") << 3 << 0;
-    QTest::newRow("not now") << QByteArray("Never") << 4 << -40202;
-    QTest::newRow("unknown") << QByteArray("on") << 1 << -40206;
-    QTest::newRow("null") << QByteArray() << -1 << -40206;
+    QCOMPARE(m_width->GetValue(nullptr), int64_t{640});
 }
 
 void TestNodeMapArray::chooses_entries()
 {
-    QFETCH(QByteArray, symbolic);
-    QFETCH(int, value);
-    QFETCH(int, code);
-    ZetoGenParam::Enum* mode = m_array->GetEnum("Mode", nullptr);
-    QCOMPARE(mode->SetValueStr(symbolic.isNull() ? nullptr : symbolic.constData()), code);
-    QCOMPARE(mode->GetValueStr(nullptr), code ? "Off" : symbolic.constData());
-    QCOMPARE(mode->SetValueStr("Off"), 0);
-    QCOMPARE(mode->SetValue(value), code);
-    QCOMPARE(mode->GetValue(nullptr), int64_t{code ? 0 : value});
+    struct Choice
+    {
+        const char* symbolic;
+        int64_t value;
+        int32_t code;
+    };
+    for (const Choice& choice :
+         {Choice{"On", 3, 0}, {"Never", 4, -40202}, {"on", 1, -40206}, {nullptr, -1, -40206}}) {
+        QCOMPARE(m_mode->SetValueStr(choice.symbolic), choice.code);
+        QCOMPARE(m_mode->GetValueStr(nullptr), choice.code ? "Off" : choice.symbolic);
+        QCOMPARE(m_mode->SetValueStr("Off"), 0);
+        QCOMPARE(m_mode->SetValue(choice.value), choice.code);
+        QCOMPARE(m_mode->GetValue(nullptr), choice.code ? 0 : choice.value);
+        QCOMPARE(m_mode->SetValue(0), 0);
+    }
 }
 
 void TestNodeMapArray::knows_a_value_without_an_entry()
 {
-    ZetoGenParam::Enum* mode = m_array->GetEnum("Mode", nullptr);
-    QCOMPARE(mode->GetEntriesCount(), uint64_t{3});
-    QCOMPARE(mode->GetEntry(1)->GetSymbolic(), "On");
-    QCOMPARE(mode->GetEntry(1)->GetValue(), int64_t{3});
-    QVERIFY(!mode->GetEntry(2)->IsAvailable());
-    QVERIFY(!mode->GetEntry(3));
+    QCOMPARE(m_mode->GetEntriesCount(), uint64_t{3});
+    QCOMPARE(m_mode->GetEntry(1)->GetSymbolic(), "On");
+    QCOMPARE(m_mode->GetEntry(1)->GetValue(), int64_t{3});
+    QVERIFY(!m_mode->GetEntry(2)->IsAvailable());
+    QVERIFY(!m_mode->GetEntry(3));
     m_map->assign("Mode", 99);
     int32_t code = 0;
-    QCOMPARE(mode->GetValueStr(&code), "");
+    QCOMPARE(m_mode->GetValueStr(&code), "");
     QCOMPARE(code, -40200);
-    QCOMPARE(mode->GetValue(&code), int64_t{99});
+    QCOMPARE(m_mode->GetValue(&code), int64_t{99});
     QCOMPARE(code, 0);
 }
 
@@ -263,53 +241,47 @@ void TestNodeMapArray::reads_and_writes_other_kinds()
 
 void TestNodeMapArray::calls_sinks_once_for_each_change()
 {
-    QString protocol;
-    Sink a(protocol, 'a');
-    Sink b(protocol, 'b');
-    ZetoGenParam::Int* width = m_array->GetInt("Width", nullptr);
-    QCOMPARE(width->RegisterEventSink(&a), 0);
-    QCOMPARE(width->RegisterEventSink(&a), 0);
-    QCOMPARE(width->RegisterEventSink(&b), 0);
-    QCOMPARE(width->RegisterEventSink(nullptr), -40007);
-    width->SetValue(64);
-    width->SetValue(4100);
+    Sink a(m_protocol, 'a');
+    Sink b(m_protocol, 'b');
+    for (Sink* sink : {&a, &a, &b})
+        QCOMPARE(m_width->RegisterEventSink(sink), 0);
+    QCOMPARE(m_width->RegisterEventSink(nullptr), -40007);
+    m_width->SetValue(64);
+    m_width->SetValue(4100);
     GenApi::CIntegerPtr(m_map->GetNode("Width"))->SetValue(68);
-    QCOMPARE(width->UnregisterEventSink(&a), 0);
-    QCOMPARE(width->UnregisterEventSink(&a), 0);
-    width->SetValue(72);
-    QCOMPARE(protocol, QStringLiteral("ababb"));
-    width->UnregisterEventSink(&b);
+    for (Sink* sink : {&a, &a})
+        QCOMPARE(m_width->UnregisterEventSink(sink), 0);
+    m_width->SetValue(72);
+    QCOMPARE(m_protocol, QStringLiteral("ababb"));
+    m_width->UnregisterEventSink(&b);
 }
 
 void TestNodeMapArray::lets_sinks_go_in_their_own_call()
 {
-    QString protocol;
-    Sink a(protocol, 'a');
-    Sink b(protocol, 'b');
-    Sink c(protocol, 'c');
-    Sink other(protocol, 'o');
-    ZetoGenParam::Int* width = m_array->GetInt("Width", nullptr);
+    Sink a(m_protocol, 'a');
+    Sink b(m_protocol, 'b');
+    Sink c(m_protocol, 'c');
+    Sink other(m_protocol, 'o');
     ZetoGenParam::Boolean* flip = m_array->GetBoolean("Flip", nullptr);
     for (Sink* sink : {&a, &b, &c})
-        width->RegisterEventSink(sink);
+        m_width->RegisterEventSink(sink);
     flip->RegisterEventSink(&other);
     a.action = [&](ZetoGenParam::Param* param) {
         param->UnregisterEventSink(&a);
         param->UnregisterEventSink(&b);
         flip->SetValue(true);
     };
-    width->SetValue(64);
-    width->SetValue(68);
-    QCOMPARE(QString(protocol).remove(QLatin1Char('o')), QStringLiteral("acc"));
-    QCOMPARE(protocol.count(QLatin1Char('o')), 1);
-    width->UnregisterEventSink(&c);
+    m_width->SetValue(64);
+    m_width->SetValue(68);
+    QCOMPARE(QString(m_protocol).remove(QLatin1Char('o')), QStringLiteral("acc"));
+    QCOMPARE(m_protocol.count(QLatin1Char('o')), 1);
+    m_width->UnregisterEventSink(&c);
     flip->UnregisterEventSink(&other);
 }
 
 void TestNodeMapArray::waits_for_a_sink_on_another_thread()
 {
-    QString protocol;
-    Sink sink(protocol, 's');
+    Sink sink(m_protocol, 's');
     std::atomic<bool> isInside{false};
     std::atomic<bool> isOver{false};
     sink.action = [&](ZetoGenParam::Param*) {
@@ -317,12 +289,11 @@ void TestNodeMapArray::waits_for_a_sink_on_another_thread()
         std::this_thread::sleep_for(std::chrono::milliseconds(30));
         isOver = true;
     };
-    ZetoGenParam::Int* width = m_array->GetInt("Width", nullptr);
-    width->RegisterEventSink(&sink);
-    std::thread writer([width] { width->SetValue(64); });
+    m_width->RegisterEventSink(&sink);
+    std::thread writer([this] { m_width->SetValue(64); });
     while (!isInside)
         std::this_thread::yield();
-    width->UnregisterEventSink(&sink);
+    m_width->UnregisterEventSink(&sink);
     QVERIFY(isOver);
     writer.join();
 }

@@ -16,7 +16,6 @@ class TestValueText : public QObject
 private slots:
     void integer_texts_follow_the_representation_data();
     void integer_texts_follow_the_representation();
-    void integers_are_read_whole_or_not_at_all_data();
     void integers_are_read_whole_or_not_at_all();
     void float_texts_follow_the_notation_data();
     void float_texts_follow_the_notation();
@@ -51,33 +50,21 @@ void TestValueText::integer_texts_follow_the_representation()
     QCOMPARE(integerFromText(text.toStdString(), hint).value(), value);
 }
 
-void TestValueText::integers_are_read_whole_or_not_at_all_data()
-{
-    QTest::addColumn<int>("representation");
-    QTest::addColumn<bool>("valid");
-
-    QTest::newRow("12") << int(GenApi::HexNumber) << true;
-    QTest::newRow("0xffffffffffffffff") << int(GenApi::Linear) << true;
-    QTest::newRow("0x10000000000000000") << int(GenApi::Linear) << false;
-    QTest::newRow("9223372036854775808") << int(GenApi::Linear) << false;
-    QTest::newRow("0x") << int(GenApi::Linear) << false;
-    QTest::newRow("") << int(GenApi::Linear) << false;
-    QTest::newRow("12px") << int(GenApi::Linear) << false;
-    QTest::newRow("1.2.3.4") << int(GenApi::Linear) << false;
-    QTest::newRow("1.2.3") << int(GenApi::IPV4Address) << false;
-    QTest::newRow("1.2.3.256") << int(GenApi::IPV4Address) << false;
-    QTest::newRow("1.2.3.") << int(GenApi::IPV4Address) << false;
-    QTest::newRow("3232235521") << int(GenApi::IPV4Address) << true;
-    QTest::newRow("1:2:3:4:5:6") << int(GenApi::MACAddress) << true;
-    QTest::newRow("1:2:3:4:5:G") << int(GenApi::MACAddress) << false;
-}
-
 void TestValueText::integers_are_read_whole_or_not_at_all()
 {
-    QFETCH(int, representation);
-    QFETCH(bool, valid);
-    const auto hint = static_cast<GenApi::ERepresentation>(representation);
-    QCOMPARE(integerFromText(QTest::currentDataTag(), hint).has_value(), valid);
+    using namespace GenApi;
+    const std::pair<const char*, ERepresentation> valid[] = {{"12", HexNumber},
+                                                             {"0xffffffffffffffff", Linear},
+                                                             {"3232235521", IPV4Address},
+                                                             {"1:2:3:4:5:6", MACAddress}};
+    for (const auto& [text, hint] : valid)
+        QVERIFY2(integerFromText(text, hint), text);
+    for (const char* text :
+         {"0x10000000000000000", "9223372036854775808", "0x", "", "12px", "1.2.3.4", "1:2:3:4:5:6"})
+        QVERIFY2(!integerFromText(text, Linear), text);
+    for (const char* text : {"1.2.3", "1.2.3.256", "1.2.3."})
+        QVERIFY2(!integerFromText(text, IPV4Address), text);
+    QVERIFY(!integerFromText("1:2:3:4:5:G", MACAddress));
 }
 
 void TestValueText::float_texts_follow_the_notation_data()
@@ -88,14 +75,18 @@ void TestValueText::float_texts_follow_the_notation_data()
     QTest::addColumn<double>("max");
     QTest::addColumn<QString>("text");
 
-    const int automatic = GenApi::fnAutomatic;
-    QTest::newRow("shortest") << 2.5 << automatic << 6 << DBL_MAX << "2.5";
-    QTest::newRow("rounded") << 1234.5678 << automatic << 6 << DBL_MAX << "1234.57";
-    QTest::newRow("large") << 1e10 << automatic << 6 << DBL_MAX << "1e+10";
-    QTest::newRow("fixed") << 2.5 << int(GenApi::fnFixed) << 3 << DBL_MAX << "2.500";
-    QTest::newRow("scientific") << 1234.5 << int(GenApi::fnScientific) << 2 << DBL_MAX << "1.23e+03";
-    QTest::newRow("not rounded above the maximum") << 1.2345678 << automatic << 6 << 1.2345678 << "1.2345678";
-    QTest::newRow("largest") << DBL_MAX << automatic << 3 << DBL_MAX << "1.79769e+308";
+    const auto row = [](const char* name, double value, GenApi::EDisplayNotation notation, int precision,
+                        double max, const char* text) {
+        QTest::newRow(name) << value << int(notation) << precision << max << QString::fromLatin1(text);
+    };
+    row("shortest", 2.5, GenApi::fnAutomatic, 6, DBL_MAX, "2.5");
+    row("rounded", 1234.5678, GenApi::fnAutomatic, 6, DBL_MAX, "1234.57");
+    row("large", 1e10, GenApi::fnAutomatic, 6, DBL_MAX, "1e+10");
+    row("fixed", 2.5, GenApi::fnFixed, 3, DBL_MAX, "2.500");
+    row("scientific", 1234.5, GenApi::fnScientific, 2, DBL_MAX, "1.23e+03");
+    row("not rounded above the maximum", 1.2345678, GenApi::fnAutomatic, 6, 1.2345678, "1.2345678");
+    row("largest", DBL_MAX, GenApi::fnAutomatic, 3, DBL_MAX, "1.79769e+308");
+    row("absurd precision", 1.5, GenApi::fnAutomatic, INT_MIN, 1.5, "1.5");
 }
 
 void TestValueText::float_texts_follow_the_notation()

@@ -13,10 +13,16 @@ CommandNode::CommandNode(NodeMap& map, NodeDeclaration&& declaration, Settings&&
     setDefaultCachingMode(GenApi::NoCache);
 }
 
+/// A camera that fails to say whether it is done is asked again next time: the others are polled anyway.
 void CommandNode::poll()
 {
-    if (m_busy)
+    if (!m_busy)
+        return;
+    try {
         checkDone();
+    } catch (const GenICam::GenericException&) {
+        return;
+    }
 }
 
 void CommandNode::Execute(bool Verify)

@@ -190,8 +190,7 @@ void FloatNode::requireWithinLimits(double value) const
     const double least = source().min();
     const double most = source().max();
     if (value < least || value > most)
-        throwOutOfRange(name(), std::to_string(value) + " is not within " + std::to_string(least) + " and " +
-                                    std::to_string(most));
+        throwOutOfRange(name(), toText(value) + " is not within " + toText(least) + " and " + toText(most));
 }
 
 std::string FloatNode::toText(double value) const

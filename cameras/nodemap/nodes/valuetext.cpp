@@ -100,7 +100,7 @@ std::chars_format charsFormat(GenApi::EDisplayNotation notation)
 
 std::string formatted(double value, GenApi::EDisplayNotation notation, int64_t precision)
 {
-    const int digits = static_cast<int>(std::clamp<int64_t>(precision, 0, 1000));
+    const int digits = static_cast<int>(std::min<int64_t>(precision, 1000));
     std::string text(static_cast<size_t>(digits) + 320,
                      '\0'); // the largest number has 309 digits before the point
     char* end = text.data() + text.size();
@@ -143,12 +143,13 @@ std::string floatToText(double value, const NumberFormat& format, double min, do
         const std::optional<double> read = floatFromText(text);
         return read && *read >= min && *read <= max;
     };
-    std::string text = formatted(value, format.notation, format.precision);
+    int64_t precision = std::max<int64_t>(format.precision, 0);
+    std::string text = formatted(value, format.notation, precision);
     if (value < min || value > max)
         return text;
     const int64_t exact = std::numeric_limits<double>::max_digits10;
-    for (int64_t precision = format.precision + 1; precision <= exact && !isWritable(text); ++precision)
-        text = formatted(value, format.notation, precision);
+    while (precision < exact && !isWritable(text))
+        text = formatted(value, format.notation, ++precision);
     return text;
 }
 
