@@ -13,8 +13,8 @@ namespace ZetoNodeMap {
 /// An access hook that counts the calls of a client and makes some of them fail, for tests:
 ///
 ///     const auto faults = std::make_shared<FaultInjector>();
-///     map->setAccessHook([faults](const char* call, const GenApi::INode* node) { faults->enter(call, node);
-///     }); faults->throwAt(17, Fault::Timeout);
+///     map->setAccessHook([faults](auto* call, auto* node) { faults->enter(call, node); });
+///     faults->throwAt(17, FaultInjector::Fault::Timeout);
 ///
 /// Thread: enter() runs under the node map's lock; take it (GetLock()) for the other functions while other
 /// threads use the node map.

@@ -93,16 +93,6 @@ void NodeMap::setAccessMode(std::string_view name, GenApi::EAccessMode mode)
     change(nullptr, nullptr, [&] { node(name).setDeclaredAccessMode(mode); });
 }
 
-void NodeMap::deliverEvent(std::string_view eventId)
-{
-    change(nullptr, nullptr, [&] {
-        for (const auto& node : m_nodes) {
-            if (!eventId.empty() && node->info().eventId == eventId)
-                node->invalidate();
-        }
-    });
-}
-
 void NodeMap::setAccessHook(AccessHook hook)
 {
     const Call call(*this, nullptr, nullptr);
@@ -161,11 +151,12 @@ void NodeMap::Poll(int64_t ElapsedTime)
 void NodeMap::advance(int64_t elapsed)
 {
     for (PolledNode& polled : m_polled) {
-        polled.elapsed += elapsed;
-        if (polled.elapsed >= polled.interval) {
-            polled.elapsed = 0;
-            polled.node->poll();
+        if (elapsed < polled.interval - polled.elapsed) {
+            polled.elapsed += elapsed;
+            continue;
         }
+        polled.elapsed = 0;
+        polled.node->poll();
     }
 }
 

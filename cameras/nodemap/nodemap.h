@@ -57,10 +57,6 @@ public:
     /// Changes the mode that the node was declared with; NA and NI come and go this way. Calls back.
     void setAccessMode(std::string_view name, GenApi::EAccessMode mode);
 
-    /// An event with this id (hexadecimal, without a prefix) arrives: the nodes of that event id are
-    /// invalidated with all that depends on them. Calls back.
-    void deliverEvent(std::string_view eventId);
-
     /// The place where tests and simulators interpose: counting, slow access, a camera that dies. An empty
     /// function removes the hook. Not to be called by the hook itself.
     void setAccessHook(AccessHook hook);

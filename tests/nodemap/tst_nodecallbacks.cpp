@@ -17,6 +17,8 @@ class TestNodeCallbacks : public QObject
     Q_OBJECT
 
 private slots:
+    void init();
+
     void a_change_fires_what_depends_on_it_data();
     void a_change_fires_what_depends_on_it();
     void inside_lock_comes_first_with_the_lock_held();
@@ -26,6 +28,12 @@ private slots:
     void polling_fires_when_the_interval_is_over();
     void a_callback_may_deregister_itself_and_others();
     void callbacks_are_destroyed_once();
+
+private:
+    GenApi::INode& node(const char* name) { return *m_map->GetNode(name); }
+
+    std::unique_ptr<NodeMap> m_map; ///< of the integers A, B, which changes with A, and C
+    QStringList m_log;
 };
 
 /// Notes when it is called and destroyed.
@@ -62,11 +70,6 @@ private:
     std::function<void(GenApi::ECallbackType)> m_action;
 };
 
-static QStringList taken(QStringList& log)
-{
-    return std::exchange(log, {});
-}
-
 /// The names of the nodes whose callbacks \a action fires: "A B".
 static QString firedBy(NodeMap& map, const Action& action)
 {
@@ -88,6 +91,16 @@ static QString firedBy(NodeMap& map, const Action& action)
 static GenApi::CIntegerPtr integer(NodeMap& map, const char* name)
 {
     return GenApi::CIntegerPtr(map.GetNode(name));
+}
+
+void TestNodeCallbacks::init()
+{
+    NodeMapBuilder b;
+    b.integer("A");
+    b.integer("B").invalidatedBy({"A"});
+    b.integer("C");
+    m_map = b.build();
+    m_log.clear();
 }
 
 void TestNodeCallbacks::a_change_fires_what_depends_on_it_data()
@@ -118,8 +131,6 @@ void TestNodeCallbacks::a_change_fires_what_depends_on_it_data()
     });
     row("assign", "Gain Level", [](auto& map) { map.assign("Gain", 200); });
     row("change of access", "Max Gain Level", [](auto& map) { map.setAccessMode("Max", GenApi::NA); });
-    row("event", "Level", [](auto& map) { map.deliverEvent("9001"); });
-    row("another event", "", [](auto& map) { map.deliverEvent("9002"); });
     row("whole map", "Selector Gain Max Level Broken Bundle Reset A B",
         [](auto& map) { map.InvalidateNodes(); });
 }
@@ -130,7 +141,7 @@ void TestNodeCallbacks::a_change_fires_what_depends_on_it()
     b.integer("Selector").selects({"Gain"});
     b.integer("Gain").max("Max");
     b.integer("Max").value(10);
-    b.integer("Level").invalidatedBy({"Gain"}).eventId("9001");
+    b.integer("Level").invalidatedBy({"Gain"});
     b.integer("Broken").onWrite([](NodeMap& map, int64_t) {
         integer(map, "Gain")->SetValue(1);
         throw TIMEOUT_EXCEPTION("gone");
@@ -151,60 +162,42 @@ void TestNodeCallbacks::a_change_fires_what_depends_on_it()
 
 void TestNodeCallbacks::inside_lock_comes_first_with_the_lock_held()
 {
-    NodeMapBuilder b;
-    b.integer("A");
-    b.integer("B").invalidatedBy({"A"});
-    const auto map = b.build();
-    QStringList log;
     QVector<bool> free;
     const auto checkLock = [&](GenApi::ECallbackType) {
         std::thread([&] {
-            free += map->GetLock().TryLock();
+            free += m_map->GetLock().TryLock();
             if (free.last())
-                map->GetLock().Unlock();
+                m_map->GetLock().Unlock();
         }).join();
     };
-    new Recorder(*map->GetNode("B"), log, checkLock);
-    new Recorder(*map->GetNode("A"), log, checkLock);
-    integer(*map, "A")->SetValue(1);
-    QCOMPARE(taken(log), QStringList({"A+", "B+", "A-", "B-"}));
+    new Recorder(node("B"), m_log, checkLock);
+    new Recorder(node("A"), m_log, checkLock);
+    integer(*m_map, "A")->SetValue(1);
+    QCOMPARE(m_log, QStringList({"A+", "B+", "A-", "B-"}));
     QCOMPARE(free, QVector<bool>({false, false, true, true}));
 }
 
 void TestNodeCallbacks::a_callback_may_change_nodes()
 {
-    NodeMapBuilder b;
-    b.integer("A");
-    b.integer("B");
-    const auto map = b.build();
-    QStringList log;
-    new Recorder(*map->GetNode("A"), log, [&](GenApi::ECallbackType phase) {
-        integer(*map, "B")->SetValue(integer(*map, "A")->GetValue() +
-                                     (phase == GenApi::cbPostInsideLock ? 1 : 2));
+    new Recorder(node("B"), m_log, [&](GenApi::ECallbackType phase) {
+        integer(*m_map, "C")->SetValue(phase == GenApi::cbPostInsideLock ? 1 : 2);
     });
-    new Recorder(*map->GetNode("B"), log);
-    integer(*map, "A")->SetValue(10);
-    QCOMPARE(taken(log), QStringList({"A+", "B+", "A-", "B+", "B-", "B-"}));
-    QCOMPARE(integer(*map, "B")->GetValue(), 12);
+    new Recorder(node("C"), m_log);
+    integer(*m_map, "B")->SetValue(10);
+    QCOMPARE(m_log, QStringList({"B+", "C+", "B-", "C+", "C-", "C-"}));
+    QCOMPARE(integer(*m_map, "C")->GetValue(), 2);
 }
 
 void TestNodeCallbacks::an_exception_leaves_the_change()
 {
-    NodeMapBuilder b;
-    b.integer("A");
-    b.integer("B").invalidatedBy({"A"});
-    const auto map = b.build();
-    QStringList log;
-    auto* thrower = new Recorder(*map->GetNode("A"), log,
-                                 [](GenApi::ECallbackType) { throw RUNTIME_EXCEPTION("callback"); });
-    new Recorder(*map->GetNode("B"), log);
-    QCOMPARE(exceptionName([&] { integer(*map, "A")->SetValue(5); }), QStringLiteral("Runtime"));
-    QCOMPARE(taken(log), QStringList({"A+"}));
-    QCOMPARE(integer(*map, "A")->GetValue(), 5);
-    QVERIFY(map->GetNode("A")->DeregisterCallback(thrower->handle()));
-    taken(log);
-    integer(*map, "B")->SetValue(1); // nothing is left over from the failed delivery
-    QCOMPARE(taken(log), QStringList({"B+", "B-"}));
+    auto* thrower =
+        new Recorder(node("A"), m_log, [](GenApi::ECallbackType) { throw RUNTIME_EXCEPTION("callback"); });
+    new Recorder(node("B"), m_log);
+    QCOMPARE(exceptionName([&] { integer(*m_map, "A")->SetValue(5); }), QStringLiteral("Runtime"));
+    QCOMPARE(integer(*m_map, "A")->GetValue(), 5);
+    QVERIFY(node("A").DeregisterCallback(thrower->handle()));
+    integer(*m_map, "B")->SetValue(1); // nothing is left over from the failed delivery
+    QCOMPARE(m_log, QStringList({"A+", "destroyed", "B+", "B-"}));
 }
 
 void TestNodeCallbacks::a_command_fires_again_when_it_is_done()
@@ -213,6 +206,8 @@ void TestNodeCallbacks::a_command_fires_again_when_it_is_done()
     NodeMapBuilder b;
     b.command("Save").doneWhen([&] { return done; }).pollingTime(100).invalidates({"State"});
     b.integer("State");
+    b.command("Broken").doneWhen([]() -> bool { throw TIMEOUT_EXCEPTION("gone"); }).pollingTime(100);
+    b.integer("Later").pollingTime(300);
     const auto map = b.build();
     GenApi::CCommandPtr save(map->GetNode("Save"));
     QCOMPARE(firedBy(*map, [&](NodeMap&) { save->Execute(); }), QStringLiteral("Save State"));
@@ -223,7 +218,9 @@ void TestNodeCallbacks::a_command_fires_again_when_it_is_done()
 
     QCOMPARE(firedBy(*map, [](NodeMap& map) { map.Poll(100); }), QString());
     save->Execute();
+    GenApi::CCommandPtr(map->GetNode("Broken"))->Execute(); // keeps no other node from being polled
     QCOMPARE(firedBy(*map, [](NodeMap& map) { map.Poll(100); }), QStringLiteral("Save State"));
+    QCOMPARE(firedBy(*map, [](NodeMap& map) { map.Poll(100); }), QStringLiteral("Later"));
 }
 
 void TestNodeCallbacks::polling_fires_when_the_interval_is_over()
@@ -242,43 +239,30 @@ void TestNodeCallbacks::polling_fires_when_the_interval_is_over()
 
 void TestNodeCallbacks::a_callback_may_deregister_itself_and_others()
 {
-    NodeMapBuilder b;
-    b.integer("A");
-    const auto map = b.build();
-    GenApi::INode& node = *map->GetNode("A");
-    QStringList log;
     Recorder* second = nullptr;
     Recorder* first = nullptr;
-    first = new Recorder(node, log, [&](GenApi::ECallbackType) {
-        node.DeregisterCallback(second->handle());
-        node.DeregisterCallback(first->handle());
+    first = new Recorder(node("A"), m_log, [&](GenApi::ECallbackType) {
+        node("A").DeregisterCallback(second->handle());
+        node("A").DeregisterCallback(first->handle());
     });
-    second = new Recorder(node, log);
-    integer(*map, "A")->SetValue(1);
-    QCOMPARE(log.count("A+"), 1); // the second was removed before its turn
-    QCOMPARE(log.count("destroyed"), 2);
+    second = new Recorder(node("A"), m_log);
+    integer(*m_map, "A")->SetValue(1); // the second is removed before its turn
+    QCOMPARE(m_log, QStringList({"A+", "destroyed", "destroyed"}));
 }
 
 void TestNodeCallbacks::callbacks_are_destroyed_once()
 {
-    QStringList log;
-    {
-        NodeMapBuilder b;
-        b.integer("A");
-        b.integer("B");
-        const auto map = b.build();
-        const auto handle = (new Recorder(*map->GetNode("A"), log))->handle();
-        new Recorder(*map->GetNode("A"), log);
-        QVERIFY(!map->GetNode("B")->DeregisterCallback(handle));
-        QVERIFY(map->GetNode("A")->DeregisterCallback(handle));
-        QCOMPARE(taken(log), QStringList({"destroyed"}));
-        QVERIFY(!map->GetNode("A")->DeregisterCallback(handle));
-        QCOMPARE(exceptionName([&] { map->GetNode("A")->RegisterCallback(nullptr); }),
-                 QStringLiteral("InvalidArgument"));
-        GenApi::Deregister((new Recorder(*map->GetNode("B"), log))->handle());
-        QCOMPARE(taken(log), QStringList({"destroyed"}));
-    }
-    QCOMPARE(log, QStringList({"destroyed"}));
+    const auto handle = (new Recorder(node("A"), m_log))->handle();
+    new Recorder(node("A"), m_log);
+    QVERIFY(!node("B").DeregisterCallback(handle));
+    QVERIFY(node("A").DeregisterCallback(handle));
+    QCOMPARE(m_log.size(), 1);
+    QVERIFY(!node("A").DeregisterCallback(handle));
+    QCOMPARE(exceptionName([&] { node("A").RegisterCallback(nullptr); }), QStringLiteral("InvalidArgument"));
+    GenApi::Deregister((new Recorder(node("B"), m_log))->handle());
+    QCOMPARE(m_log.size(), 2);
+    m_map.reset();
+    QCOMPARE(m_log, QStringList({"destroyed", "destroyed", "destroyed"}));
 }
 
 ZETO_TEST_MAIN(TestNodeCallbacks)

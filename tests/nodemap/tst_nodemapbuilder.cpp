@@ -1,4 +1,3 @@
-#include "featuretree.h"
 #include "nodemapbuilder.h"
 
 #include "testmain.h"
@@ -18,7 +17,6 @@ private slots:
     void states_what_a_feature_says_about_itself();
     void keeps_categories_in_order();
     void reports_references_to_nodes_that_do_not_exist();
-    void builds_a_large_tree_quickly();
 };
 
 static QString text(const GenICam::gcstring& text)
@@ -68,13 +66,13 @@ void TestNodeMapBuilder::states_what_a_feature_says_about_itself()
 
     GenApi::CFloatPtr gain(map->GetNode("Gain"));
     GenApi::INode& node = *gain->GetNode();
-    QCOMPARE(text(node.GetDisplayName()), QStringLiteral("Analog gain"));
-    QCOMPARE(text(node.GetToolTip()), QStringLiteral("tip"));
-    QCOMPARE(text(node.GetDescription()), QStringLiteral("long"));
-    QCOMPARE(text(node.GetDocuURL()), QStringLiteral("url"));
-    QCOMPARE(text(node.GetEventID()), QStringLiteral("9001"));
-    QCOMPARE(text(node.GetName(true)), QStringLiteral("Std::Gain"));
-    QCOMPARE(text(node.GetDeviceName()), QStringLiteral("Camera"));
+    QStringList texts;
+    for (const GenICam::gcstring& each :
+         {node.GetDisplayName(), node.GetToolTip(), node.GetDescription(), node.GetDocuURL(),
+          node.GetEventID(), node.GetName(true), node.GetDeviceName(), gain->GetUnit(), gain->ToString()})
+        texts += text(each);
+    QCOMPARE(texts.join(QLatin1Char('|')),
+             QStringLiteral("Analog gain|tip|long|url|9001|Std::Gain|Camera|dB|3.00"));
     QCOMPARE(node.GetVisibility(), GenApi::Guru);
     QCOMPARE(node.GetCachingMode(), GenApi::WriteAround);
     QCOMPARE(node.GetPollingTime(), 500);
@@ -83,12 +81,8 @@ void TestNodeMapBuilder::states_what_a_feature_says_about_itself()
     QCOMPARE(node.GetAlias(), map->GetNode("GainRaw"));
     QCOMPARE(node.GetAlias()->GetCastAlias(), &node);
     QCOMPARE(node.GetPrincipalInterfaceType(), GenApi::intfIFloat);
-    QCOMPARE(text(gain->GetUnit()), QStringLiteral("dB"));
     QCOMPARE(gain->GetRepresentation(), GenApi::Logarithmic);
-    QCOMPARE(text(gain->ToString()), QStringLiteral("3.00"));
-    QCOMPARE(gain->GetMin(), -1.5);
-    QCOMPARE(gain->GetMax(), 24.0);
-    QCOMPARE(gain->GetInc(), 0.5);
+    QVERIFY(gain->GetMin() == -1.5 && gain->GetMax() == 24 && gain->GetInc() == 0.5);
     GenICam::gcstring value, attribute;
     QVERIFY(node.GetProperty("Visibility", value, attribute));
     QCOMPARE(text(value), QStringLiteral("Guru"));
@@ -139,18 +133,6 @@ void TestNodeMapBuilder::reports_references_to_nodes_that_do_not_exist()
     twice.integer("Width");
     twice.integer("Width");
     QVERIFY_EXCEPTION_THROWN(twice.build(), std::invalid_argument);
-}
-
-void TestNodeMapBuilder::builds_a_large_tree_quickly()
-{
-    QElapsedTimer timer;
-    timer.start();
-    NodeMapBuilder b;
-    declareFeatureTree(b, 10000);
-    const auto map = b.build();
-    QVERIFY2(timer.elapsed() < 3000, qPrintable(QString::number(timer.elapsed()) + QStringLiteral(" ms")));
-    QVERIFY(map->GetNode("Feature9999")->IsFeature());
-    QCOMPARE(tree(*map, "Category499").count(QLatin1Char(',')), 19);
 }
 
 ZETO_TEST_MAIN(TestNodeMapBuilder)

@@ -1,4 +1,3 @@
-#include "exceptionname.h"
 #include "nodemapbuilder.h"
 
 #include "testmain.h"
@@ -6,6 +5,7 @@
 #include <QtTest>
 
 #include <atomic>
+#include <functional>
 #include <thread>
 
 using namespace ZetoNodeMap;
@@ -76,61 +76,37 @@ void TestNodeThreads::values_stay_consistent_while_threads_write()
 }
 
 /// A callback as thin as a client makes it: what it refers to is detached first and outlives it.
-class Forwarder : public GenApi::CNodeCallback
+void TestNodeThreads::callbacks_come_and_go_while_threads_write()
 {
-public:
     struct Target
     {
         std::atomic<bool> attached{true};
         std::atomic<int> calls{0};
     };
-
-    Forwarder(GenApi::INode* node, std::shared_ptr<Target> target, std::atomic<int>& alive)
-        : CNodeCallback(node, GenApi::cbPostOutsideLock)
-        , m_target(std::move(target))
-        , m_alive(alive)
-    {
-        ++m_alive;
-    }
-    void operator()(GenApi::ECallbackType phase) const override
-    {
-        if (phase == m_CallbackType && m_target->attached)
-            ++m_target->calls;
-    }
-    void Destroy() override
-    {
-        --m_alive;
-        delete this;
-    }
-
-private:
-    std::shared_ptr<Target> m_target;
-    std::atomic<int>& m_alive;
-};
-
-void TestNodeThreads::callbacks_come_and_go_while_threads_write()
-{
     const auto map = makeMap();
     std::atomic<bool> stop{false};
-    std::atomic<int> alive{0};
     std::thread writer([&] {
         for (int64_t value = 0; !stop; ++value)
             integer(*map, "Selector")->SetValue(value % 4);
     });
     GenApi::INode* node = map->GetNode("Value");
-    int calls = 0;
-    for (int round = 0; round < 1000 || calls == 0; ++round) {
-        const auto target = std::make_shared<Forwarder::Target>();
-        const auto handle = node->RegisterCallback(new Forwarder(node, target, alive));
-        if (round % 10 == 0)
+    std::vector<std::shared_ptr<Target>> targets;
+    for (int calls = 0; targets.size() < 1000 || calls == 0; calls += targets.back()->calls) {
+        const auto target = targets.emplace_back(std::make_shared<Target>());
+        const std::function<void(GenApi::INode*)> forward = [target](GenApi::INode*) {
+            if (target->attached)
+                ++target->calls;
+        };
+        const auto handle = GenApi::Register(node, forward, GenApi::cbPostOutsideLock);
+        if (targets.size() % 10 == 0)
             QTest::qSleep(1);
         target->attached = false;
         QVERIFY(node->DeregisterCallback(handle));
-        calls += target->calls;
     }
     stop = true;
     writer.join();
-    QCOMPARE(alive.load(), 0);
+    for (const auto& target : targets)
+        QCOMPARE(target.use_count(), 1L); // its callback is destroyed
 }
 
 ZETO_TEST_MAIN(TestNodeThreads)

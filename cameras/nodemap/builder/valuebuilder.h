@@ -1,19 +1,12 @@
 #pragma once
 
 #include "featurebuilder.h"
-#include "inregister.h"
 #include "memory.h"
 
 #include <memory>
-#include <optional>
 #include <type_traits>
 
 namespace ZetoNodeMap {
-
-template <class NodeType>
-inline constexpr bool mayLieInRegister =
-    std::is_base_of_v<GenApi::IInteger, NodeType> || std::is_base_of_v<GenApi::IFloat, NodeType> ||
-    std::is_base_of_v<GenApi::IString, NodeType>;
 
 /// The declaration of a node with a value: in memory unless there is another source.
 template <class NodeType, class MemoryType>
@@ -23,15 +16,9 @@ struct ValueDeclaration : DeclarationOf<NodeType>
     {
         if (!this->settings.source)
             this->settings.source = std::move(memory);
-        if constexpr (mayLieInRegister<NodeType>) {
-            if (place)
-                return std::make_unique<InRegister<NodeType>>(map, std::move(*this),
-                                                              std::move(this->settings), *place);
-        }
         return DeclarationOf<NodeType>::createNode(map);
     }
 
-    std::optional<RegisterPlace> place;
     std::unique_ptr<MemoryType> memory = std::make_unique<MemoryType>();
 };
 
@@ -81,14 +68,6 @@ public:
         } else {
             m_declaration->memory->setWriteFunction(std::move(function));
         }
-        return this->self();
-    }
-
-    /// Has an integer, float or string node be a register, too: IRegister gives its bytes.
-    Self& inRegister(int64_t address, int64_t length)
-    {
-        static_assert(mayLieInRegister<NodeType>, "only integers, floats and strings are registers, too");
-        m_declaration->place = RegisterPlace{address, length};
         return this->self();
     }
 

@@ -2,18 +2,6 @@
 
 namespace ZetoNodeMap {
 
-GenApi::EAccessMode withoutWriting(GenApi::EAccessMode mode)
-{
-    switch (mode) {
-    case GenApi::RW:
-        return GenApi::RO;
-    case GenApi::WO:
-        return GenApi::NA;
-    default:
-        return mode;
-    }
-}
-
 GenApi::EAccessMode AccessRules::evaluate(const NodeMap& map, GenApi::EAccessMode source) const
 {
     const GenApi::EAccessMode granted = GenApi::Combine(declared, source);
@@ -21,7 +9,7 @@ GenApi::EAccessMode AccessRules::evaluate(const NodeMap& map, GenApi::EAccessMod
         return GenApi::NI;
     if (granted == GenApi::NA || !available.evaluate(map))
         return GenApi::NA;
-    return locked.evaluate(map) ? withoutWriting(granted) : granted;
+    return locked.evaluate(map) ? GenApi::Combine(granted, GenApi::RO) : granted;
 }
 
 bool AccessRules::isTraceable() const

@@ -21,7 +21,4 @@ struct AccessRules
     std::vector<std::string> inputs() const;
 };
 
-/// \a mode without the right to write.
-GenApi::EAccessMode withoutWriting(GenApi::EAccessMode mode);
-
 } // namespace ZetoNodeMap

@@ -46,9 +46,9 @@ public:
 protected:
     GenICam::gcstring valueToText(bool verify, bool ignoreCache) override;
     void valueFromText(const GenICam::gcstring& text, bool verify) override;
-    void set(double value, bool verify);
 
 private:
+    void set(double value, bool verify);
     double checkedValue(bool verify, bool ignoreCache);
     void requireWithinLimits(double value) const;
     std::string toText(double value) const;

@@ -41,9 +41,9 @@ public:
 protected:
     GenICam::gcstring valueToText(bool verify, bool ignoreCache) override;
     void valueFromText(const GenICam::gcstring& text, bool verify) override;
-    void set(int64_t value, bool verify);
 
 private:
+    void set(int64_t value, bool verify);
     int64_t checkedValue(bool verify, bool ignoreCache);
     void requireWithinLimits(int64_t value) const;
     void requireAllowed(int64_t value) const;

@@ -30,6 +30,8 @@ public:
 protected:
     GenICam::gcstring valueToText(bool verify, bool ignoreCache) override;
     void valueFromText(const GenICam::gcstring& text, bool verify) override;
+
+private:
     void set(const std::string& value, bool verify);
 };
 
