@@ -11,12 +11,10 @@ class NodeValues;
 /// limits.
 ///
 /// - Inquiry memory (read-only for clients) behind pIsImplemented, pIsAvailable and pIsLocked gets values
-/// that
-///   make features present and writable, where a few obvious values do.
+///   that make features present and writable, where a few obvious values do.
 /// - Increments become 1, maxima rise above the minima by 4095 (floats: 1000) where they left no room.
 /// - Integer and float features outside their limits get their minimum, enumerations without an entry for
-/// their
-///   value their first selectable one.
+///   their value their first selectable one.
 /// - The vendor and model name of the description become those of the device, where the memory has room.
 ///
 /// What a client can write as a setting is left alone otherwise, so features whose availability depends on

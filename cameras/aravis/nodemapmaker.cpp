@@ -136,7 +136,7 @@ private:
         if (node.has("NumericValue"))
             entry.numericValue(realLiteral(node.text("NumericValue")));
         if (isYes(node.text("IsSelfClearing")))
-            entry.clearsTo(node.value());
+            entry.selfClearing();
         enumeration.entry(entry);
     }
 

@@ -26,11 +26,6 @@ GenApi::EAccessMode modeNamed(const std::string& text, GenApi::EAccessMode other
     return text == "WO" ? GenApi::WO : otherwise;
 }
 
-GenApi::EAccessMode withoutWriting(GenApi::EAccessMode mode)
-{
-    return GenApi::Combine(mode, GenApi::RO);
-}
-
 bool isKnife(const DescriptionNode& node)
 {
     return node.is("IntSwissKnife") || node.is("SwissKnife");
@@ -60,7 +55,7 @@ GenApi::EAccessMode NodeStates::accessMode(int node) const
     if (mode != GenApi::NI && !holds(stated, LinkRole::Available, true))
         return GenApi::NA;
     if (GenApi::IsWritable(mode) && holds(stated, LinkRole::Locked, false))
-        mode = withoutWriting(mode);
+        mode = GenApi::Combine(mode, GenApi::RO);
     return GenApi::Combine(mode, modeNamed(stated.text("ImposedAccessMode"), GenApi::RW));
 }
 

@@ -7,6 +7,7 @@
 #include <thread>
 
 namespace ZetoSimulator {
+
 void AccessFaults::onCall(std::string_view call)
 {
     using ZetoCameraLibrary::AccessKind;

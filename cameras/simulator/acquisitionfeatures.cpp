@@ -11,19 +11,13 @@ namespace {
 constexpr int64_t sensorWidth = 2048;
 constexpr int64_t sensorHeight = 1536;
 
-Setting<int64_t> rest(int64_t whole, const std::string& part)
-{
-    return Setting<int64_t>([whole, part](const NodeMap& map) { return whole - map.integer(part); })
-        .computedFrom({part});
-}
-
 void addSize(NodeMapBuilder& b, const std::string& size, const std::string& offset, int64_t whole)
 {
     b.integer(size)
         .in("ImageFormatControl")
         .standard()
         .unit("px")
-        .limits(64, rest(whole, offset))
+        .limits(64, restOf(whole, offset))
         .increment(8)
         .lockedIf("AcquisitionActive")
         .value(whole);
@@ -32,7 +26,7 @@ void addSize(NodeMapBuilder& b, const std::string& size, const std::string& offs
         .standard()
         .visibility(GenApi::Expert)
         .unit("px")
-        .limits(0, rest(whole, size))
+        .limits(0, restOf(whole, size))
         .increment(2)
         .value(0);
 }

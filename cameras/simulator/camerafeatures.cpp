@@ -20,6 +20,13 @@ void addDualFrameFeatures(ZetoNodeMap::NodeMapBuilder& b, const SimulatedCamera&
 
 } // namespace
 
+ZetoNodeMap::Setting<int64_t> restOf(int64_t whole, const std::string& other)
+{
+    return ZetoNodeMap::Setting<int64_t>(
+               [whole, other](const ZetoNodeMap::NodeMap& map) { return whole - map.integer(other); })
+        .computedFrom({other});
+}
+
 std::unique_ptr<ZetoNodeMap::NodeMap> makeCameraFeatures(SimulatedCamera& camera)
 {
     const bool isDualFrame = camera.setup().kind == CameraKind::DualFrame;

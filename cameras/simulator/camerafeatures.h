@@ -1,5 +1,7 @@
 #pragma once
 
+#include <setting.h>
+
 #include <memory>
 
 namespace ZetoNodeMap {
@@ -13,6 +15,9 @@ class SimulatedCamera;
 
 /// The features of a camera as its kind has them. They refer to \a camera, which must outlive them.
 std::unique_ptr<ZetoNodeMap::NodeMap> makeCameraFeatures(SimulatedCamera& camera);
+
+/// The limit of what shares \a whole with the feature \a other.
+ZetoNodeMap::Setting<int64_t> restOf(int64_t whole, const std::string& other);
 
 // The groups they are made of; each adds one category or a few below "Root".
 

@@ -14,19 +14,15 @@ constexpr int64_t sensorHeight = 3072;
 void addExtent(NodeMapBuilder& b, const std::string& size, const std::string& offset, int64_t whole,
                int64_t step)
 {
-    const auto rest = [whole](const std::string& part) {
-        return Setting<int64_t>([=](const NodeMap& map) { return whole - map.integer(part); })
-            .computedFrom({part});
-    };
     b.integer(size)
         .in("FrameSize")
         .unit("px")
-        .limits(4 * step, rest(offset))
+        .limits(4 * step, restOf(whole, offset))
         .increment(step)
         .lockedIf("AcquisitionActive")
         .value(whole)
         .valueAt({1}, whole / 2);
-    b.integer(offset).in("FrameSize").unit("px").limits(0, rest(size)).increment(step).value(0);
+    b.integer(offset).in("FrameSize").unit("px").limits(0, restOf(whole, size)).increment(step).value(0);
 }
 
 /// How many pixels of the sensor make one of the image: subsampling takes M of each P pixels.

@@ -18,9 +18,7 @@ void addStrobe(NodeMapBuilder& b, const std::string& strobe)
             .toolTip(toolTip)
             .unit("us")
             .representation(GenApi::Logarithmic)
-            .limits(least, Setting<int64_t>([other](const NodeMap& map) {
-                               return longest - map.integer(other);
-                           }).computedFrom({other}))
+            .limits(least, restOf(longest, other))
             .value(value);
     };
     b.enumeration(strobe + "Mode")

@@ -5,13 +5,11 @@
 ///
 /// Conventions of all classes in this header:
 /// - Ownership: System, Interface and DeviceInfo objects and their texts are owned by the library and stay
-/// valid
-///   until System::Close(), also when the hardware behind them is gone; a camera that comes back is described
-///   by the same object again. Lists and devices are released by the caller with their Release(). Nothing is
-///   deleted by the caller; the destructors are there for implementers.
-/// - Errors: operations that return int32_t give a ZetoCam::ErrorCode, 0 for success. An `int32_t* error` may
-/// be
-///   null; it is set in every case. Nothing throws.
+///   valid until System::Close(), also when the hardware behind them is gone; a camera that comes back is
+///   described by the same object again. Lists and devices are released by the caller with their Release().
+///   Nothing is deleted by the caller; the destructors are there for implementers.
+/// - Errors: operations that return int32_t give a ZetoCam::ErrorCode, 0 for success. An `int32_t* error`
+///   may be null; it is set in every case. Nothing throws.
 /// - Threads: every operation may be called from any thread at any time. A list belongs to one thread at a
 ///   time. System::Close() is called when no other thread uses the library.
 /// - Texts are zero-terminated and never null. A text that changes leaves the one handed out before in place.

@@ -10,8 +10,7 @@
 ///   `int32_t* error` that may be null; it is set to the code in every case. A getter that fails returns 0,
 ///   false or an empty text. Nothing throws.
 /// - Threads: every operation may be called from any thread; calls on one Array are served one after the
-/// other.
-///   Any of them may wait for the camera's answer.
+///   other. Any of them may wait for the camera's answer.
 /// - The order of the virtual operations is the binary interface.
 
 #include "ZetoCamError.h"

@@ -3,6 +3,7 @@
 #include <utility>
 
 namespace ZetoAravis {
+
 CameraLink::CameraLink(std::function<bool()> isAnswering)
     : m_isAnswering(std::move(isAnswering))
 {

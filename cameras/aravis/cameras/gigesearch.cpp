@@ -52,18 +52,27 @@ bool sendToAll(const Sockets& sockets, const Datagram& command, std::uint32_t ad
     return anySent;
 }
 
+/// Sends \a command to one camera. \return what \a read makes of the first datagram that it takes for the
+/// answer
+template <class Answer>
+std::optional<Answer> ask(std::uint32_t own, std::uint32_t camera, std::uint16_t id, const Datagram& command,
+                          std::optional<Answer> (*read)(const Datagram&, std::uint16_t))
+{
+    const Sockets sockets = openSockets({own});
+    sendToAll(sockets, command, camera);
+    const auto deadline = Clock::now() + answerTime;
+    while (const auto datagram = UdpSocket::receive(sockets, deadline)) {
+        if (auto answer = read(*datagram, id))
+            return answer;
+    }
+    return std::nullopt;
+}
+
 std::optional<Gvcp::RegisterAnswer> readRegister(std::uint32_t own, std::uint32_t camera,
                                                  std::uint32_t address)
 {
     const std::uint16_t id = nextId();
-    const Sockets sockets = openSockets({own});
-    sendToAll(sockets, Gvcp::readRegisterCommand(id, address), camera);
-    const auto deadline = Clock::now() + answerTime;
-    while (const auto datagram = UdpSocket::receive(sockets, deadline)) {
-        if (const auto answer = Gvcp::registerAnswer(*datagram, id))
-            return answer;
-    }
-    return std::nullopt;
+    return ask(own, camera, id, Gvcp::readRegisterCommand(id, address), Gvcp::registerAnswer);
 }
 
 } // namespace
@@ -86,14 +95,7 @@ std::vector<Gvcp::DiscoveryAnswer> searchCameras(const NetworkAdapter& adapter,
 std::optional<Gvcp::DiscoveryAnswer> askCamera(std::uint32_t own, std::uint32_t camera)
 {
     const std::uint16_t id = nextId();
-    const Sockets sockets = openSockets({own});
-    sendToAll(sockets, Gvcp::discoveryCommand(id), camera);
-    const auto deadline = Clock::now() + answerTime;
-    while (const auto datagram = UdpSocket::receive(sockets, deadline)) {
-        if (auto answer = Gvcp::discoveryAnswer(*datagram, id))
-            return answer;
-    }
-    return std::nullopt;
+    return ask(own, camera, id, Gvcp::discoveryCommand(id), Gvcp::discoveryAnswer);
 }
 
 ZetoCam::AccessStatus accessStatus(const NetworkAdapter& adapter, const NetworkAddress& camera)
