@@ -1,3 +1,4 @@
+#include "exceptionname.h"
 #include "genapiversion.h"
 #include "nodemapbuilder.h"
 
@@ -74,30 +75,10 @@ static_assert(!compiles<GenApi::FeatureList_t&>(EXPRESSION_OF_A(a.resize(1))));
 static_assert(!compiles<GenApi::int64_autovector_t&>(EXPRESSION_OF_A(a = {})));
 static_assert(!compiles<GenApi::int64_autovector_t&>(EXPRESSION_OF_A(a.begin())));
 
-template <class Call>
-QString thrownBy(Call call)
-{
-#define RETURN_NAME_IF_CAUGHT(Name)                                                                          \
-    catch (const GenICam::Name&)                                                                             \
-    {                                                                                                        \
-        return QStringLiteral(#Name);                                                                        \
-    }
-    try {
-        call();
-    }
-    RETURN_NAME_IF_CAUGHT(LogicalErrorException)
-    RETURN_NAME_IF_CAUGHT(OutOfRangeException)
-    RETURN_NAME_IF_CAUGHT(BadAllocException)
-    RETURN_NAME_IF_CAUGHT(GenericException)
-    return QString();
-#undef RETURN_NAME_IF_CAUGHT
-}
-
 /// One node of each kind, named by its type.
 std::unique_ptr<ZetoNodeMap::NodeMap> nodeOfEachKind()
 {
     ZetoNodeMap::NodeMapBuilder b;
-    b.category("Root").contains("Float", "Enumeration");
     b.integer("Integer").validValues({0, 8, GC_INT64_MAX});
     b.floating("Float").castAlias("Integer");
     b.boolean("Boolean");
@@ -148,34 +129,28 @@ class TestGenApi : public QObject
 
 private slots:
     void textKeepsBytes();
-    void textFinds_data();
     void textFinds();
     void textComparesAndConcatenates();
     void textGoesThroughStreams();
     void stringVectorEdits();
     void nodeVectorWorksWithAlgorithms();
     void autovectorsShareTheirElements();
-    void lockIsRecursive();
-    void lockableObjectHoldsItsLock();
+    void locksAreRecursive();
     void exceptionTellsWhatAndWhere();
     void reporterTakesAllForms();
     void integralCastRefusesWhatDoesNotFit();
-    void accessModesCombine();
-    void visibilityAndCachingCombine();
+    void modesAndLevelsCombine();
     void helpersAskTheNode();
     void enumerationsConvertToText();
     void nullPointerThrowsWhenUsed();
     void pointersCastAcrossInterfaces();
-    void interfaceNamesFollowTheType();
-    void everyInterfaceReadsAndWrites();
+    void operatorsReadAndWrite();
     void callablesOfAllKindsAreCalled();
-    void callbackTestsItsPhase();
 };
 
 void TestGenApi::textKeepsBytes()
 {
     QCOMPARE(gcstring("abc", 2).c_str(), "ab");
-    QCOMPARE(gcstring(3, 'x').c_str(), "xxx");
     QVERIFY(gcstring(static_cast<const char*>(nullptr)).empty());
 
     const gcstring withZero("a\0b", 3);
@@ -191,38 +166,23 @@ void TestGenApi::textKeepsBytes()
     text = *&text;
     QCOMPARE(std::string(text), large);
     text.resize(2);
-    QCOMPARE(text.c_str(), "yy");
     const std::unique_ptr<gcstring> onHeap(new gcstring("heap"));
     onHeap->swap(text);
-    QCOMPARE(text.c_str(), "heap");
+    QCOMPARE(onHeap->c_str(), "yy");
     QCOMPARE(text[0], 'h');
-}
-
-void TestGenApi::textFinds_data()
-{
-    QTest::addColumn<quint64>("found");
-    QTest::addColumn<quint64>("expected");
-    const gcstring text("one two one");
-    const auto row = [](const char* name, size_t found, size_t expected) {
-        QTest::newRow(name) << quint64(found) << quint64(expected);
-    };
-    row("character", text.find('n'), 1);
-    row("character after offset", text.find('n', 2), 9);
-    row("text", text.find(gcstring("one"), 1), 8);
-    row("first bytes of a text", text.find(gcstring("twins"), 0, 2), 4);
-    row("pointer", text.find("two"), 4);
-    row("first bytes of a pointer", text.find("owner", 0, 2), GCSTRING_NPOS);
-    row("nothing", text.find("three"), GCSTRING_NPOS);
-    row("any of", text.find_first_of("wt"), 4);
-    row("none of", text.find_first_not_of("eno"), 3);
-    row("no position", gcstring::_npos(), gcstring::npos);
 }
 
 void TestGenApi::textFinds()
 {
-    QFETCH(quint64, found);
-    QFETCH(quint64, expected);
-    QCOMPARE(found, expected);
+    const gcstring text("one two one");
+    QCOMPARE(text.find('n', 2), size_t(9));
+    QCOMPARE(text.find(gcstring("one"), 1), size_t(8));
+    QCOMPARE(text.find(gcstring("twins"), 0, 2), size_t(4));
+    QCOMPARE(text.find("two"), size_t(4));
+    QCOMPARE(text.find("owner", 0, 2), GCSTRING_NPOS);
+    QCOMPARE(text.find_first_of("wt"), size_t(4));
+    QCOMPARE(text.find_first_not_of("eno"), size_t(3));
+    QCOMPARE(gcstring::_npos(), gcstring::npos);
 }
 
 void TestGenApi::textComparesAndConcatenates()
@@ -238,8 +198,7 @@ void TestGenApi::textComparesAndConcatenates()
     QCOMPARE(b.append(2, '.').c_str(), "bcdbcd..");
     QCOMPARE(b.substr(1, 2).c_str(), "cd");
     QCOMPARE(b.substr(6).c_str(), "..");
-    QCOMPARE(thrownBy([&] { (void)b.substr(9); }), QStringLiteral("OutOfRangeException"));
-    QCOMPARE(a.c_str(), "a");
+    QCOMPARE(exceptionName([&] { (void)b.substr(9); }), QStringLiteral("OutOfRange"));
 }
 
 void TestGenApi::textGoesThroughStreams()
@@ -275,7 +234,7 @@ void TestGenApi::stringVectorEdits()
     copy.front() = "changed";
     QCOMPARE(list.at(0).c_str(), "start");
     QCOMPARE(copy.back().c_str(), "more");
-    QCOMPARE(thrownBy([&] { (void)copy.at(4); }), QStringLiteral("OutOfRangeException"));
+    QCOMPARE(exceptionName([&] { (void)copy.at(4); }), QStringLiteral("OutOfRange"));
     copy.clear();
     QVERIFY(copy.empty() && copy.begin() == copy.end());
 }
@@ -284,15 +243,13 @@ void TestGenApi::nodeVectorWorksWithAlgorithms()
 {
     const auto map = nodeOfEachKind();
     GenApi::INode* const a = map->GetNode("Integer");
-    GenApi::INode* const b = map->GetNode("Port");
     GenApi::NodeList_t nodes(1);
     QVERIFY(!nodes[0]);
-    nodes[0] = a;
-    nodes.push_back(b);
+    nodes.push_back(a);
     const std::vector<GenApi::INode*> copy(nodes.begin(), nodes.end());
     std::reverse(nodes.begin(), nodes.end());
     QCOMPARE(nodes[0], copy[1]);
-    QVERIFY(std::find(nodes.begin(), nodes.end(), a) == nodes.begin() + 1);
+    QVERIFY(std::find(nodes.begin(), nodes.end(), nullptr) == nodes.begin() + 1);
 
     GenApi::FeatureList_t features;
     features.resize(2, dynamic_cast<GenApi::IValue*>(a));
@@ -302,9 +259,9 @@ void TestGenApi::nodeVectorWorksWithAlgorithms()
 
 void TestGenApi::autovectorsShareTheirElements()
 {
-    GenApi::int64_autovector_t values(2);
     GenApi::int64_autovector_t copy;
     QCOMPARE(copy.size(), size_t(0));
+    GenApi::int64_autovector_t values(2);
     copy = values;
     copy[1] = GC_INT64_MIN;
     QCOMPARE(values[1], GC_INT64_MIN);
@@ -316,28 +273,18 @@ void TestGenApi::autovectorsShareTheirElements()
     QCOMPARE(kept[0], 0.5);
 }
 
-void TestGenApi::lockIsRecursive()
-{
-    GenApi::CLock lock;
-    {
-        const GenApi::AutoLock outer(lock);
-        {
-            const GenApi::AutoLock inner(lock);
-            QVERIFY(lock.TryLock());
-            lock.Unlock();
-        }
-        QVERIFY(!isFreeForOthers(lock));
-    }
-    QVERIFY(isFreeForOthers(lock));
-}
-
-void TestGenApi::lockableObjectHoldsItsLock()
+void TestGenApi::locksAreRecursive()
 {
     struct Object : GenApi::LockableObject<Object>
     {
     } object;
     {
-        const auto held = object.GetLock();
+        const auto outer = object.GetLock();
+        {
+            const GenApi::AutoLock inner(object.m_Lock);
+            QVERIFY(object.m_Lock.TryLock());
+            object.m_Lock.Unlock();
+        }
         QVERIFY(!isFreeForOthers(object.m_Lock));
     }
     QVERIFY(isFreeForOthers(object.m_Lock));
@@ -354,8 +301,7 @@ void TestGenApi::exceptionTellsWhatAndWhere()
     const QByteArray what = copy.what();
     for (const char* part : {"refused", "file.cpp", "12", "SetValue", "Gain", "AccessException"})
         QVERIFY2(what.contains(part), part);
-    QCOMPARE(thrownBy([] { GenICam::ThrowBadAlloc(__FILE__, __LINE__); }),
-             QStringLiteral("BadAllocException"));
+    QVERIFY_EXCEPTION_THROWN(GenICam::ThrowBadAlloc(__FILE__, __LINE__), GenICam::BadAllocException);
 }
 
 void TestGenApi::reporterTakesAllForms()
@@ -368,18 +314,17 @@ void TestGenApi::reporterTakesAllForms()
     QCOMPARE(PROPERTY_EXCEPTION(stream).GetDescription(), "stream 1");
     const QByteArray cut = RUNTIME_EXCEPTION(std::string(5000, 'x')).GetDescription();
     QVERIFY(cut.size() >= 255 && cut.size() < 5000);
-    QCOMPARE(thrownBy([] { throw OUT_OF_RANGE_EXCEPTION("x"); }), QStringLiteral("OutOfRangeException"));
 }
 
 void TestGenApi::integralCastRefusesWhatDoesNotFit()
 {
     QCOMPARE(GenICam::INTEGRAL_CAST<int32_t>(int64_t(GC_INT32_MIN)), GC_INT32_MIN);
     for (const int64_t value : {int64_t(GC_INT32_MAX) + 1, int64_t(GC_INT32_MIN) - 1})
-        QVERIFY(!thrownBy([&] { (void)GenICam::INTEGRAL_CAST<int32_t>(value); }).isEmpty());
-    QVERIFY(!thrownBy([] { (void)GenICam::INTEGRAL_CAST<uint64_t>(int64_t(-1)); }).isEmpty());
+        QVERIFY(!exceptionName([&] { (void)GenICam::INTEGRAL_CAST<int32_t>(value); }).isEmpty());
+    QVERIFY(!exceptionName([] { (void)GenICam::INTEGRAL_CAST<uint64_t>(int64_t(-1)); }).isEmpty());
 }
 
-void TestGenApi::accessModesCombine()
+void TestGenApi::modesAndLevelsCombine()
 {
     using namespace GenApi;
     const EAccessMode modes[] = {NI, NA, WO, RO, RW};
@@ -391,12 +336,6 @@ void TestGenApi::accessModesCombine()
     for (int i = 0; i < 5; ++i)
         for (int j = 0; j < 5; ++j)
             QCOMPARE(Combine(modes[i], modes[j]), expected[i][j]);
-}
-
-void TestGenApi::visibilityAndCachingCombine()
-{
-    using namespace GenApi;
-    QCOMPARE(Combine(Beginner, Invisible), Invisible);
     QCOMPARE(Combine(Guru, Expert), Guru);
     QCOMPARE(Combine(WriteThrough, WriteThrough), WriteThrough);
     QCOMPARE(Combine(WriteThrough, WriteAround), WriteAround);
@@ -407,32 +346,23 @@ void TestGenApi::visibilityAndCachingCombine()
 
 void TestGenApi::helpersAskTheNode()
 {
+    using namespace GenApi;
     const auto map = nodeOfEachKind();
-    const GenApi::CIntegerPtr pointer(map->GetNode("Integer"));
-    const auto state = [&] {
-        using namespace GenApi;
-        const IBase* const base = pointer;
-        const bool all[] = {IsReadable(base), IsWritable(base), IsAvailable(base), IsImplemented(base)};
-        const bool byReference[] = {IsReadable(*base), IsWritable(*base), IsAvailable(*base),
-                                    IsImplemented(*base)};
-        const bool byPointer[] = {IsReadable(pointer), IsWritable(pointer), IsAvailable(pointer),
-                                  IsImplemented(pointer)};
-        QString text;
-        for (int i = 0; i < 4; ++i)
-            text += all[i] != byReference[i] || all[i] != byPointer[i] ? '?' : all[i] ? "rwai"[i] : '-';
-        return text;
+    const CIntegerPtr pointer(map->GetNode("Integer"));
+    const IBase* const base = pointer;
+    const auto state = [](const auto& node) -> QByteArray {
+        return QByteArray(IsReadable(node) ? "r" : "-") + (IsWritable(node) ? 'w' : '-') +
+               (IsAvailable(node) ? 'a' : '-') + (IsImplemented(node) ? 'i' : '-');
     };
-    const std::pair<GenApi::EAccessMode, const char*> expected[] = {{GenApi::NI, "----"},
-                                                                    {GenApi::NA, "---i"},
-                                                                    {GenApi::WO, "-wai"},
-                                                                    {GenApi::RO, "r-ai"},
-                                                                    {GenApi::RW, "rwai"}};
+    const std::pair<EAccessMode, QByteArray> expected[] = {
+        {NI, "----"}, {NA, "---i"}, {WO, "-wai"}, {RO, "r-ai"}, {RW, "rwai"}};
     for (const auto& [mode, text] : expected) {
         pointer->GetNode()->ImposeAccessMode(mode);
-        QCOMPARE(state(), QString::fromLatin1(text));
+        QCOMPARE((QByteArrayList{state(base), state(*base), state(pointer)}),
+                 (QByteArrayList{text, text, text}));
     }
-    const GenApi::IBase* const none = nullptr;
-    QVERIFY(!IsReadable(none) && !IsImplemented(none) && !IsAvailable(GenApi::CFloatPtr()));
+    QCOMPARE(state(CFloatPtr()), QByteArray("----"));
+    QCOMPARE(state(static_cast<const IBase*>(nullptr)), QByteArray("----"));
 }
 
 void TestGenApi::enumerationsConvertToText()
@@ -445,23 +375,19 @@ void TestGenApi::enumerationsConvertToText()
     QVERIFY(EVisibilityClass::FromString("Guru", &visibility));
     QVERIFY(!EVisibilityClass::FromString("guru", &visibility));
     QCOMPARE(visibility, Guru);
-    gcstring text;
-    ERepresentation representation = MACAddress;
-    ERepresentationClass::ToString(text, &representation);
-    QCOMPARE(text.c_str(), "MACAddress");
 }
 
 void TestGenApi::nullPointerThrowsWhenUsed()
 {
     const GenApi::CIntegerPtr null;
-    const auto thrown = QStringLiteral("LogicalErrorException");
+    const auto thrown = QStringLiteral("LogicalError");
     QVERIFY(!null && !null.IsValid() && null == nullptr && null == 0);
-    QCOMPARE(thrownBy([&] { (void)null->GetMin(); }), thrown);
-    QCOMPARE(thrownBy([&] { *null = 5; }), thrown);
-    QCOMPARE(thrownBy([&] { (void)null(); }), thrown);
-    QCOMPARE(thrownBy([&] { (void)(null != nullptr); }), thrown);
-    QCOMPARE(thrownBy([&] { const GenApi::CNodePtr other(null); }), thrown);
-    QCOMPARE(thrownBy([&] { (void)(null == 1); }), thrown);
+    QCOMPARE(exceptionName([&] { (void)null->GetMin(); }), thrown);
+    QCOMPARE(exceptionName([&] { *null = 5; }), thrown);
+    QCOMPARE(exceptionName([&] { (void)null(); }), thrown);
+    QCOMPARE(exceptionName([&] { (void)(null != nullptr); }), thrown);
+    QCOMPARE(exceptionName([&] { const GenApi::CNodePtr other(null); }), thrown);
+    QCOMPARE(exceptionName([&] { (void)(null == 1); }), thrown);
     const GenApi::CIntegerPtr copy = null;
     QVERIFY(copy == null);
 }
@@ -470,7 +396,6 @@ void TestGenApi::pointersCastAcrossInterfaces()
 {
     const auto map = nodeOfEachKind();
     GenApi::CFloatPtr asFloat(map->GetNode("Float"));
-    QVERIFY(asFloat.IsValid());
     QVERIFY(asFloat.GetIntAlias() == dynamic_cast<GenApi::IInteger*>(map->GetNode("Integer")));
     QVERIFY(!asFloat.GetEnumAlias());
     GenApi::CNodePtr node(asFloat);
@@ -481,56 +406,35 @@ void TestGenApi::pointersCastAcrossInterfaces()
     node = map->GetNode("Integer");
     QCOMPARE(GenApi::CValuePtr(node)->GetNode(), map->GetNode("Integer"));
     QVERIFY(GenApi::CNodeMapPtr(map.get()) == map.get());
-}
-
-void TestGenApi::interfaceNamesFollowTheType()
-{
-    const auto map = nodeOfEachKind();
     for (const char* kind :
          {"Integer", "Float", "Boolean", "Command", "String", "Register", "Enumeration", "Port"})
         QCOMPARE(GenApi::GetInterfaceName(map->GetNode(kind)).c_str(), (gcstring("I") + kind).c_str());
 }
 
-void TestGenApi::everyInterfaceReadsAndWrites()
+void TestGenApi::operatorsReadAndWrite()
 {
     const auto map = nodeOfEachKind();
     const GenApi::CIntegerPtr integer(map->GetNode("Integer"));
     *integer = GC_INT64_MAX;
     QCOMPARE((*integer)(), GC_INT64_MAX);
-    QCOMPARE(integer->GetListOfValidValues()[1], int64_t(8));
+    QCOMPARE(**integer, GC_INT64_MAX);
     const GenApi::CFloatPtr real(map->GetNode("Float"));
     *real = 1.5;
+    QCOMPARE((*real)(), 1.5);
     QCOMPARE(**real, 1.5);
     const GenApi::CBooleanPtr boolean(map->GetNode("Boolean"));
     *boolean = true;
     QVERIFY((*boolean)());
+    const GenApi::CStringPtr string(map->GetNode("String"));
+    *string = "text";
+    QCOMPARE((*string)().c_str(), "text");
+    QCOMPARE((**string).c_str(), "text");
+    const GenApi::CEnumerationPtr enumeration(map->GetNode("Enumeration"));
+    *enumeration = "On";
+    QCOMPARE((**enumeration).c_str(), "On");
     const GenApi::CCommandPtr command(map->GetNode("Command"));
     (*command)();
     QVERIFY(command->IsDone());
-    const GenApi::CStringPtr string(map->GetNode("String"));
-    *string = "text";
-    QCOMPARE((**string).c_str(), "text");
-    const GenApi::CRegisterPtr bytes(map->GetNode("Register"));
-    std::vector<uint8_t> written(static_cast<size_t>(bytes->GetLength()), 0xA5);
-    std::vector<uint8_t> read(written.size());
-    bytes->Set(written.data(), bytes->GetLength());
-    bytes->Get(read.data(), bytes->GetLength());
-    QCOMPARE(read, written);
-
-    const GenApi::CEnumerationPtr enumeration(map->GetNode("Enumeration"));
-    *enumeration = "On";
-    QCOMPARE(GenApi::CEnumEntryPtr(enumeration->GetCurrentEntry())->GetSymbolic().c_str(), "On");
-    GenApi::NodeList_t entries;
-    enumeration->GetEntries(entries);
-    QCOMPARE(GenApi::CEnumEntryPtr(entries[1])->GetValue(), enumeration->GetIntValue());
-    GenApi::StringList_t symbolics;
-    enumeration->GetSymbolics(symbolics);
-    QCOMPARE(symbolics.size(), size_t(2));
-
-    const GenApi::AutoLock held(map->GetLock());
-    GenApi::FeatureList_t features;
-    GenApi::CCategoryPtr(map->GetNode("Root"))->GetFeatures(features);
-    QCOMPARE(features[1]->GetNode()->GetName().c_str(), "Enumeration");
 }
 
 void TestGenApi::callablesOfAllKindsAreCalled()
@@ -554,28 +458,12 @@ void TestGenApi::callablesOfAllKindsAreCalled()
     QCOMPARE(functionCalls, 2);
     QCOMPARE(lambdaCalls, 1);
     QCOMPARE(capturedCalls, 1);
-    QCOMPARE(listener.calls, 2);
+    QCOMPARE(listener.calls, 2); // each in its own phase alone
 
     for (const auto handle : handles)
         GenApi::Deregister(handle);
     value = 0;
     QCOMPARE(functionCalls + lambdaCalls + capturedCalls + listener.calls, 6);
-    QVERIFY(!node->DeregisterCallback(handles[0]));
-}
-
-void TestGenApi::callbackTestsItsPhase()
-{
-    Listener listener;
-    const auto map = nodeOfEachKind();
-    GenApi::INode* const node = map->GetNode("Integer");
-    using Callback = GenApi::Member_NodeCallback<Listener, void (Listener::*)(GenApi::INode*)>;
-    const std::unique_ptr<GenApi::CNodeCallback> callback(
-        new Callback(node, listener, &Listener::changed, GenApi::cbPostInsideLock));
-    (*callback)(GenApi::cbPostOutsideLock);
-    QCOMPARE(listener.calls, 0);
-    (*callback)(GenApi::cbPostInsideLock);
-    QCOMPARE(listener.calls, 1);
-    QCOMPARE(callback->GetNode(), node);
 }
 
 ZETO_TEST_MAIN(TestGenApi)
