@@ -4,6 +4,7 @@
 #include "handsonkeys.h"
 #include "nodemapbuilder.h"
 #include "testmain.h"
+#include "treetext.h"
 
 #include <QAbstractSpinBox>
 #include <QApplication>
@@ -22,8 +23,8 @@ namespace {
 constexpr int64_t lowest = std::numeric_limits<int64_t>::min();
 constexpr int64_t highest = std::numeric_limits<int64_t>::max();
 
-/// One feature of each type, representation and nuisance.
-std::unique_ptr<NodeMap> everyFeature()
+/// One feature of each type, representation and nuisance. \a isDone is told of the command "Calibrate".
+std::unique_ptr<NodeMap> everyFeature(const bool& isDone)
 {
     NodeMapBuilder b;
     b.category("Root");
@@ -34,6 +35,7 @@ std::unique_ptr<NodeMap> everyFeature()
     b.integer("GevMACAddress").in("Root").value(0x0011223344aa);
     b.integer("Binning").in("Root").validValues({1, 2, 4}).value(2);
     b.integer("Outside").in("Root").limits(0, 10).onRead([] { return int64_t{77}; });
+    b.integer("Odd").in("Root").limits(0, 99).increment(4).onRead([] { return int64_t{5}; });
     b.integer("Secret").in("Root").access(GenApi::WO).limits(0, 99);
     b.integer("Rounded").in("Root").onWrite([](NodeMap&, int64_t value) { return value / 10 * 10; });
     b.integer("Refused").in("Root").value(5).onWrite(
@@ -64,27 +66,32 @@ std::unique_ptr<NodeMap> everyFeature()
     b.integer("Room").in("Root").value(9);
     b.integer("Guest").in("Root").limits(0, "Room").value(3);
     b.floating("Weight").in("Root").notation(GenApi::fnFixed, 1).limits(0, "Room").increment(1).value(3);
+    b.command("Calibrate").in("Root").doneWhen([&isDone] { return isDone; });
     b.command("Reset").in("Root").onExecute([](NodeMap& map) { map.assign("Count", int64_t{8}); });
     return b.build();
 }
 
+/// The items of a choice, those that cannot be chosen with a star.
+QString itemsOf(const QComboBox& choice)
+{
+    QStringList items;
+    for (int i = 0; i < choice.count(); ++i) {
+        const bool isEnabled = choice.model()->index(i, 0).flags() & Qt::ItemIsEnabled;
+        items << choice.itemText(i) + (isEnabled ? "" : "*");
+    }
+    return items.join(',');
+}
+
 QString describe(QWidget* editor)
 {
-    if (auto* combo = qobject_cast<QComboBox*>(editor)) {
-        QStringList items;
-        for (int i = 0; i < combo->count(); ++i)
-            items << combo->itemText(i) +
-                         (combo->model()->flags(combo->model()->index(i, 0)) & Qt::ItemIsEnabled
-                              ? QString()
-                              : QStringLiteral("*"));
-        return combo->currentText() + QLatin1Char('{') + items.join(QLatin1Char(',')) + QLatin1Char('}');
-    }
+    if (auto* choice = qobject_cast<QComboBox*>(editor))
+        return choice->currentText() + '{' + itemsOf(*choice) + '}';
     if (auto* button = qobject_cast<QPushButton*>(editor))
-        return QLatin1Char('[') + button->text() + QLatin1Char(']');
+        return '[' + button->text() + ']';
     if (auto* spinBox = qobject_cast<QAbstractSpinBox*>(editor))
-        return QLatin1Char('#') + spinBox->text();
+        return '#' + spinBox->text();
     auto* line = qobject_cast<QLineEdit*>(editor);
-    return line ? QLatin1Char('"') + line->text() + QLatin1Char('"') : QStringLiteral("none");
+    return line ? '"' + line->text() + '"' : QStringLiteral("none");
 }
 
 /// A tree with the browser's delegate over a node map, and the camera's log of writes.
@@ -92,34 +99,26 @@ class Desk
 {
 public:
     Desk()
-        : map(everyFeature())
-        , faults(std::make_shared<FaultInjector>())
     {
         map->setAccessHook([this](const char* call, const GenApi::INode* node) {
             static const QStringList writing{"SetValue", "SetIntValue", "FromString", "Execute"};
             if (writing.contains(QLatin1String(call)))
                 writes << QString::fromUtf8(node->GetName().c_str());
-            faults->enter(call, node);
+            faults.enter(call, node);
         });
-        model = std::make_unique<GenParamTreeModel>(map.get());
-        proxy.setSourceModel(model.get());
+        proxy.setSourceModel(&model);
         view.setModel(&proxy);
         view.setItemDelegateForColumn(1, &delegate);
         view.resize(500, 700);
         view.show();
         view.activateWindow();
         QObject::connect(
-            model.get(), &GenParamTreeModel::errorAppeared, model.get(),
+            &model, &GenParamTreeModel::errorAppeared, &model,
             [this](const QString& name, const QString& reason) { errors << name + ": " + reason; });
+        QVERIFY(QTest::qWaitForWindowActive(&view));
     }
 
-    QModelIndex cell(const char* feature) const
-    {
-        for (int row = 0; row < proxy.rowCount(); ++row)
-            if (proxy.index(row, 0).data().toString() == QLatin1String(feature))
-                return proxy.index(row, 1);
-        return QModelIndex();
-    }
+    QModelIndex cell(const char* feature) const { return valueCell(proxy, feature); }
 
     QWidget* editor() const
     {
@@ -131,9 +130,11 @@ public:
     {
         view.setFocus();
         view.setCurrentIndex(cell(feature));
-        pressKeys(QStringLiteral("F2"));
+        pressKeys("F2");
         return editor();
     }
+
+    QString shown(const char* feature) const { return cell(feature).data().toString(); }
 
     /// What the camera holds.
     QString held(const char* feature) const
@@ -145,22 +146,26 @@ public:
                    : QString::fromStdString(map->text(feature));
     }
 
+    void refresh(const char* feature) { model.refresh(0, {proxy.mapToSource(cell(feature))}); }
+    QString written() const { return writes.join(' '); }
+
     QString note() const
     {
-        for (QLabel* label : view.viewport()->findChildren<QLabel*>(QStringLiteral("cellNote")))
+        for (QLabel* label : view.viewport()->findChildren<QLabel*>("cellNote"))
             if (label->isVisible())
                 return label->text();
         return QString();
     }
 
-    std::unique_ptr<NodeMap> map;
-    std::shared_ptr<FaultInjector> faults;
-    std::unique_ptr<GenParamTreeModel> model;
+    QStringList writes;
+    QStringList errors;
+    FaultInjector faults;
+    bool isDone = false;
+    std::unique_ptr<NodeMap> map = everyFeature(isDone);
+    GenParamTreeModel model{map.get()};
     QSortFilterProxyModel proxy;
     GenParamDelegate delegate;
     QTreeView view;
-    QStringList writes;
-    QStringList errors;
 };
 
 } // namespace
@@ -179,12 +184,10 @@ private slots:
     void showsSelectedFeaturesAtOnce();
     void keepsWhatIsTypedThroughChanges();
     void followsTheCameraWhileNothingIsTyped();
-    void followsLimitsAndChoicesWhileNothingIsTyped();
-    void showsNoTextThatCannotBeRead();
+    void startsEmptyWithoutAValue();
     void givesUpWhenTheFeatureBecomesReadOnly();
     void outlivesItsNodeMap();
     void survivesEveryFault();
-    void startsEmptyWithoutAValue();
     void fallsBackToTheStandardEditor();
 };
 
@@ -201,18 +204,13 @@ void TestGenParamDelegate::editsEveryType_data()
         QTest::addRow("%s %s", feature, actions) << opened << actions << held << writes << note;
     };
     row("Width", "#640px", "Return", "640", 0);
-    row("Width", "#640px", "'800 Return", "800");
     row("Width", "#640px", "'801 Tab", "800");
     row("Width", "#640px", "'802 Return", "804");
     row("Width", "#640px", "Up Up PgDown Return", "608");
-    row("Width", "#640px", "Up Escape", "640", 0);
     row("Width", "#640px", "'9 Escape", "640", 0);
     row("Width", "#640px", "'9 Return", "640", 0, "9 is not a number from 16 to 4096.");
     row("Whole", "#-1", "'-9223372036854775808 Return", "-9223372036854775808");
-    row("Whole", "#-1", "'9223372036854775807 Return", "9223372036854775807");
     row("Hex", "#ff", "'FFfe Return", "0xFFFE");
-    row("Hex", "#ff", "Up Return", "0x100");
-    row("GevPersistentIPAddress", "\"192.168.0.1\"", "'10.0.0.255 Return", "167772415");
     row("GevPersistentIPAddress", "\"192.168.0.1\"", "'10.0.0 Return Escape", "3232235521", 0,
         "\"10.0.0\" is not an IPv4 address.");
     row("GevPersistentIPAddress", "\"192.168.0.1\"", "'10.0.0.256 Return", "167772185");
@@ -222,10 +220,11 @@ void TestGenParamDelegate::editsEveryType_data()
     row("Binning", "2{1,2,4}", "Down Return", "4");
     row("Binning", "2{1,2,4}", "Return", "2", 0);
     row("Outside", "#77", "Return", "77", 0);
+    row("Odd", "#5", "Return", "5", 0);
+    row("Odd", "#5", "Up Return", "5");
     row("Secret", "#", "'12 Return", "12");
     row("Secret", "#", "'1 Backspace Return", "0", 0);
     row("Exposure", "#20000.00us", "Return", "20000.001", 0);
-    row("Exposure", "#20000.00us", "'20000.1234 Return", "20000.1234");
     row("Exposure", "#20000.00us", "'2,5e3 Return", "2500");
     row("Exposure", "#20000.00us", "Up Tab", "21000.001");
     row("Exposure", "#20000.00us", "'x1e Tab", "20000.001", 0, "1e is not a number.");
@@ -237,13 +236,10 @@ void TestGenParamDelegate::editsEveryType_data()
     row("Arm", "{False,True}", "'t Escape", "1");
     row("Mode", "Switched off{Switched off,Later*,On}", "Down Return", "On");
     row("Mode", "Switched off{Switched off,Later*,On}", "Tab", "Off", 0);
-    row("Label", "\"cam\"", "'123456789 Return", "12345");
     row("Label", "\"cam\"", "'\u00e4\u00f6\u00fc Return", "\u00e4\u00f6");
     row("Label", "\"cam\"", "Backspace Return", "");
     row("Password", "\"\"", "'abc Return", "abc");
-    row("Password", "\"\"", "Return", "", 0);
     row("Reset", "[Execute]", "Space Space", "", 2);
-    row("Reset", "[Execute]", "Return", "");
     row("Reset", "[Execute]", "Tab", "", 0);
 }
 
@@ -252,212 +248,182 @@ void TestGenParamDelegate::editsEveryType()
     QFETCH(const QString, actions);
     Desk desk;
     const QByteArray feature = QByteArray(QTest::currentDataTag()).split(' ').first();
-    QVERIFY(QTest::qWaitForWindowActive(&desk.view));
     QTEST(describe(desk.open(feature)), "opened");
     pressKeys(actions);
     QCoreApplication::processEvents();
     QTEST(desk.held(feature), "held");
     QTEST(desk.writes.size(), "writes");
-    QCOMPARE(desk.errors.join(QLatin1Char('\n')), QString());
+    QCOMPARE(desk.errors, QStringList());
     QTEST(desk.note(), "note");
 }
 
 void TestGenParamDelegate::tellsRefusedWrites()
 {
     Desk desk;
-    QVERIFY(QTest::qWaitForWindowActive(&desk.view));
     desk.open("Refused");
-    pressKeys(QStringLiteral("'9 Return"));
+    pressKeys("'9 Return");
     QTRY_COMPARE(desk.note(), QStringLiteral("Not while streaming"));
-    QCOMPARE(desk.errors.join(QLatin1Char('\n')), QStringLiteral("Refused: Not while streaming"));
-    QCOMPARE(desk.cell("Refused").data().toString(), QStringLiteral("5"));
+    QCOMPARE(desk.errors, QStringList("Refused: Not while streaming"));
+    QCOMPARE(desk.shown("Refused"), QStringLiteral("5"));
     QCOMPARE(desk.editor(), nullptr);
 
-    QCOMPARE(describe(desk.open("Refused")), QStringLiteral("#5"));
-    // Left open, the field goes back to what the camera holds.
-    pressKeys(QStringLiteral("'8"));
-    emit desk.delegate.commitData(desk.editor());
-    QCOMPARE(describe(desk.editor()), QStringLiteral("#5"));
-
     desk.open("Exposure");
-    pressKeys(QStringLiteral("'5 Tab"));
-    QVERIFY(desk.note().contains(QLatin1String("10")));
+    pressKeys("'5 Tab");
+    QVERIFY(desk.note().contains("10"));
 }
 
 void TestGenParamDelegate::showsWhatTheCameraMadeOfAValue()
 {
     Desk desk;
-    QVERIFY(QTest::qWaitForWindowActive(&desk.view));
-    QWidget* editor = desk.open("Rounded");
-    pressKeys(QStringLiteral("'47"));
-    emit desk.delegate.commitData(editor);
-    QCOMPARE(describe(editor), QStringLiteral("#40"));
-    QCOMPARE(desk.cell("Rounded").data().toString(), QStringLiteral("40"));
+    for (const auto& [feature, typed, held] :
+         {std::make_tuple("Refused", "'8", "5"), std::make_tuple("Rounded", "'47", "40")}) {
+        QWidget* editor = desk.open(feature);
+        pressKeys(typed);
+        emit desk.delegate.commitData(editor); // and left open
+        QCOMPARE(describe(editor), '#' + QString(held));
+        QCOMPARE(desk.shown(feature), QString(held));
+    }
 }
 
 void TestGenParamDelegate::runsACommandOncePerClick()
 {
     Desk desk;
-    QVERIFY(QTest::qWaitForWindowActive(&desk.view));
-    QCOMPARE(desk.cell("Count").data().toString(), QStringLiteral("0"));
-    QWidget* button = desk.open("Reset");
-    QTest::mouseClick(button, Qt::LeftButton);
-    QCOMPARE(desk.writes.join(QLatin1Char(' ')), QStringLiteral("Reset"));
-    QCOMPARE(desk.cell("Count").data().toString(), QStringLiteral("8"));
+    QCOMPARE(desk.shown("Count"), QStringLiteral("0"));
+    QTest::mouseClick(desk.open("Reset"), Qt::LeftButton);
+    QCOMPARE(desk.written(), QStringLiteral("Reset"));
+    QCOMPARE(desk.shown("Count"), QStringLiteral("8"));
     desk.view.setFocus(); // leaving the button must not run it again
     QCOMPARE(desk.writes.size(), 1);
+    QWidget* const viewport = desk.view.viewport();
     const QPoint cell = desk.view.visualRect(desk.cell("Reset")).center();
-    QTest::mouseClick(desk.view.viewport(), Qt::LeftButton, {}, cell);
+    QTest::mouseClick(viewport, Qt::LeftButton, {}, cell);
     QCOMPARE(desk.writes.size(), 2);
-    QTest::mouseClick(desk.view.viewport(), Qt::RightButton, {}, cell);
-    QTest::mousePress(desk.view.viewport(), Qt::LeftButton, {}, cell);
-    QTest::mouseRelease(desk.view.viewport(), Qt::LeftButton, {}, {1, 1}); // dragged off the button
+    QTest::mouseClick(viewport, Qt::RightButton, {}, cell);
+    QTest::mousePress(viewport, Qt::LeftButton, {}, cell);
+    QTest::mouseRelease(viewport, Qt::LeftButton, {}, {1, 1}); // dragged off the button
     QCOMPARE(desk.writes.size(), 2);
-    QTest::mouseDClick(desk.view.viewport(), Qt::LeftButton, {}, cell);
-    QTest::mouseRelease(desk.view.viewport(), Qt::LeftButton, {}, cell);
+    QTest::mouseDClick(viewport, Qt::LeftButton, {}, cell);
+    QTest::mouseRelease(viewport, Qt::LeftButton, {}, cell);
     QCOMPARE(desk.writes.size(), 3);
     QCOMPARE(desk.editor(), nullptr);
 }
 
 void TestGenParamDelegate::showsABusyCommand()
 {
-    bool isDone = false;
-    NodeMapBuilder b;
-    b.category("Root");
-    b.integer("Result").in("Root");
-    b.command("Calibrate").in("Root").doneWhen([&isDone] { return isDone; }).invalidates({"Result"});
-    const auto map = b.build();
-    GenParamTreeModel model(map.get());
-    const QModelIndex cell = model.index(1, 1);
-    QTreeView view;
-    GenParamDelegate delegate;
-    view.setModel(&model);
-    view.setItemDelegateForColumn(1, &delegate);
-    view.openPersistentEditor(cell);
-    auto* button = view.viewport()->findChild<QPushButton*>();
+    Desk desk;
+    auto* button = qobject_cast<QPushButton*>(desk.open("Calibrate"));
     QVERIFY(button);
-
     button->click();
     QCOMPARE(button->text(), QStringLiteral("Executing..."));
-    QCOMPARE(cell.data().toString(), QStringLiteral("Executing..."));
-    QVERIFY(cell.data(GenParamTreeModel::BusyRole).toBool());
+    QCOMPARE(desk.shown("Calibrate"), QStringLiteral("Executing..."));
     button->click(); // in vain
-    isDone = true;
+    QCOMPARE(desk.written(), QStringLiteral("Calibrate"));
+    desk.isDone = true;
     QTRY_COMPARE(button->text(), QStringLiteral("Execute"));
-    QVERIFY(!cell.data(GenParamTreeModel::BusyRole).toBool());
+    QVERIFY(!desk.cell("Calibrate").data(GenParamTreeModel::BusyRole).toBool());
 }
 
 void TestGenParamDelegate::showsSelectedFeaturesAtOnce()
 {
     Desk desk;
-    QVERIFY(QTest::qWaitForWindowActive(&desk.view));
-    QCOMPARE(desk.cell("Gain").data().toString(), QStringLiteral("1"));
+    QCOMPARE(desk.shown("Gain"), QStringLiteral("1"));
     desk.open("Selector");
-    pressKeys(QStringLiteral("Down"));
-    QCOMPARE(desk.cell("Gain").data().toString(), QStringLiteral("7"));
+    pressKeys("Down");
+    QCOMPARE(desk.shown("Gain"), QStringLiteral("7"));
 }
 
 void TestGenParamDelegate::keepsWhatIsTypedThroughChanges()
 {
     Desk desk;
-    QVERIFY(QTest::qWaitForWindowActive(&desk.view));
     // An attempt to confirm what is not complete yet does not give it up.
     QWidget* editor = desk.open("GevPersistentIPAddress");
-    pressKeys(QStringLiteral("'10.0.0 Return"));
+    pressKeys("'10.0.0 Return");
     desk.map->assign("GevPersistentIPAddress", int64_t{1});
     QCOMPARE(describe(editor), QStringLiteral("\"10.0.0\""));
-    pressKeys(QStringLiteral("Escape"));
+    pressKeys("Escape");
 
     editor = desk.open("Width");
-    pressKeys(QStringLiteral("'12"));
+    pressKeys("'12");
     desk.map->assign("Whole", int64_t{4});
     desk.map->assign("Width", int64_t{100});
-    desk.model->refresh(100, {desk.model->index(0, 1)});
-    desk.proxy.setFilterRegularExpression(QStringLiteral("W"));
+    desk.refresh("Width");
+    desk.proxy.setFilterRegularExpression("W");
     QCOMPARE(desk.editor(), editor);
     QCOMPARE(describe(editor), QStringLiteral("#12px"));
-    pressKeys(QStringLiteral("'0 Return"));
-    QTRY_COMPARE(desk.map->text("Width"), std::string("120"));
+    pressKeys("'0 Return");
+    QTRY_COMPARE(desk.held("Width"), QStringLiteral("120"));
 
     // A filter that takes the cell away takes the editor along, and nothing is written.
     desk.open("Width");
-    pressKeys(QStringLiteral("'64"));
-    desk.proxy.setFilterRegularExpression(QStringLiteral("Hex"));
+    pressKeys("'64");
+    desk.proxy.setFilterRegularExpression("Hex");
     QCoreApplication::processEvents();
-    QCOMPARE(desk.writes.join(QLatin1Char(' ')), QStringLiteral("Width"));
+    QCOMPARE(desk.written(), QStringLiteral("Width"));
 }
 
 void TestGenParamDelegate::followsTheCameraWhileNothingIsTyped()
 {
     Desk desk;
-    QVERIFY(QTest::qWaitForWindowActive(&desk.view));
     QWidget* editor = desk.open("Width");
     desk.map->assign("Width", int64_t{100});
     QCOMPARE(describe(editor), QStringLiteral("#100px"));
     editor = desk.open("Mode");
     desk.map->assign("Mode", int64_t{3});
     QCOMPARE(describe(editor), QStringLiteral("On{Switched off,Later*,On}"));
-    desk.map->assign("Mode", int64_t{9}); // no entry has this value
-    QVERIFY(describe(editor).startsWith(QLatin1Char('{')));
-    QCOMPARE(desk.writes.join(QLatin1Char(' ')), QString());
-}
-
-void TestGenParamDelegate::followsLimitsAndChoicesWhileNothingIsTyped()
-{
-    Desk desk;
-    QVERIFY(QTest::qWaitForWindowActive(&desk.view));
-    QWidget* editor = desk.open("Mode");
     desk.map->setAccessMode("EnumEntry_Mode_Later", GenApi::RW);
-    QCOMPARE(describe(editor), QStringLiteral("Switched off{Switched off,Later,On}"));
+    QCOMPARE(describe(editor), QStringLiteral("On{Switched off,Later,On}"));
+    desk.map->assign("Mode", int64_t{9}); // no entry has this value
+    QVERIFY(describe(editor).startsWith('{'));
     for (const char* feature : {"Guest", "Weight"}) {
         desk.map->assign("Room", int64_t{4});
         editor = desk.open(feature);
-        desk.map->assign("Room", int64_t{6}); // the value itself stays
-        pressKeys(QStringLiteral("Up Up Up Up"));
-        QVERIFY2(describe(editor).startsWith(QLatin1String("#6")), qPrintable(describe(editor)));
-        pressKeys(QStringLiteral("Escape"));
+        desk.map->assign("Room", int64_t{6}); // the limit: the value itself stays
+        pressKeys("Up Up Up Up");
+        QVERIFY2(describe(editor).startsWith("#6"), qPrintable(describe(editor)));
+        pressKeys("Escape");
     }
-    QCOMPARE(desk.writes.join(QLatin1Char(' ')), QString());
+    QCOMPARE(desk.written(), QString());
 }
 
-void TestGenParamDelegate::showsNoTextThatCannotBeRead()
+void TestGenParamDelegate::startsEmptyWithoutAValue()
 {
     Desk desk;
-    QVERIFY(QTest::qWaitForWindowActive(&desk.view));
-    QWidget* editor = desk.open("Label");
-    QCOMPARE(describe(editor), QStringLiteral("\"cam\""));
-    const QModelIndex label = desk.proxy.mapToSource(desk.cell("Label"));
-    desk.faults->setFilter([](const char* call, const GenApi::INode* node) {
+    const auto failOnce = [&desk] {
+        desk.faults.throwAt(0, FaultInjector::allFaults().front());
+        desk.refresh("Label");
+    };
+    desk.faults.setFilter([](const char* call, const GenApi::INode* node) {
         return qstrcmp(call, "GetValue") == 0 && node && node->GetName() == "Label";
     });
-    desk.faults->throwAt(0, FaultInjector::allFaults().front());
-    desk.model->refresh(0, {label});
+    failOnce();
+    QCOMPARE(desk.shown("Label"), QStringLiteral("ERROR"));
+    QWidget* editor = desk.open("Label");
     QCOMPARE(describe(editor), QStringLiteral("\"\""));
-    desk.model->refresh(0, {label});
+    desk.refresh("Label");
     QCOMPARE(describe(editor), QStringLiteral("\"cam\""));
+    failOnce();
+    QCOMPARE(describe(editor), QStringLiteral("\"\""));
 }
 
 void TestGenParamDelegate::givesUpWhenTheFeatureBecomesReadOnly()
 {
     Desk desk;
-    QVERIFY(QTest::qWaitForWindowActive(&desk.view));
     desk.open("Width");
-    pressKeys(QStringLiteral("'128"));
+    pressKeys("'128");
     desk.map->setAccessMode("Width", GenApi::RO);
     QTRY_COMPARE(desk.editor(), nullptr);
     QCOMPARE(desk.note(), QStringLiteral("The feature cannot be changed at the moment."));
-    QCOMPARE(desk.writes.join(QLatin1Char(' ')), QString());
+    QCOMPARE(desk.written(), QString());
 }
 
 void TestGenParamDelegate::outlivesItsNodeMap()
 {
     for (const char* feature : {"Width", "Exposure", "Mode", "Label", "Reset"}) {
         Desk desk;
-        QVERIFY(QTest::qWaitForWindowActive(&desk.view));
         const QPointer<QWidget> editor = desk.open(feature);
-        pressKeys(QStringLiteral("'1"));
+        pressKeys("'1");
         desk.writes.clear();
-        desk.model->detach();
+        desk.model.detach();
         desk.map.reset();
         QTRY_VERIFY(!editor);
         QCOMPARE(desk.writes.size(), 0);
@@ -470,50 +436,35 @@ void TestGenParamDelegate::survivesEveryFault()
     for (const char* feature : {"Width", "Binning", "GevPersistentIPAddress", "Exposure", "Rate", "Flag",
                                 "Mode", "Label", "Reset"}) {
         Desk desk;
-        QVERIFY(QTest::qWaitForWindowActive(&desk.view));
-        desk.faults->setFilter([feature](const char*, const GenApi::INode* node) {
+        desk.faults.setFilter([feature](const char*, const GenApi::INode* node) {
             return node && QString::fromUtf8(node->GetName().c_str()).contains(QLatin1String(feature));
         });
         bool hasFailed = true;
         int call = 0;
         for (; hasFailed; ++call) {
-            desk.model->refresh(0, {desk.proxy.mapToSource(desk.cell(feature))});
-            desk.faults->throwAt(call, faults.at(static_cast<size_t>(call) % faults.size()));
+            desk.refresh(feature);
+            desk.faults.throwAt(call, faults.at(static_cast<size_t>(call) % faults.size()));
             if (desk.open(feature))
-                pressKeys(QStringLiteral("Up"));
+                pressKeys("Up");
             if (desk.editor())
-                pressKeys(QStringLiteral("Return Escape"));
+                pressKeys("Return Escape");
             QCoreApplication::processEvents();
-            hasFailed = desk.faults->faultCount() > 0;
-            desk.faults->stop();
+            hasFailed = desk.faults.faultCount() > 0;
+            desk.faults.stop();
         }
         QVERIFY2(call > 3, feature);
         // Whatever failed: after the next look the cell shows what the camera holds.
-        desk.model->refresh(0, {desk.proxy.mapToSource(desk.cell(feature))});
-        QVERIFY2(desk.cell(feature).data().toString() != QLatin1String("ERROR"), feature);
+        desk.refresh(feature);
+        QVERIFY2(desk.shown(feature) != "ERROR", feature);
     }
-}
-
-void TestGenParamDelegate::startsEmptyWithoutAValue()
-{
-    Desk desk;
-    QVERIFY(QTest::qWaitForWindowActive(&desk.view));
-    desk.faults->setFilter([](const char* call, const GenApi::INode* node) {
-        return qstrcmp(call, "GetValue") == 0 && node && node->GetName() == "Label";
-    });
-    desk.faults->throwAt(0, FaultInjector::allFaults().front());
-    desk.model->refresh(0, {desk.proxy.mapToSource(desk.cell("Label"))});
-    QCOMPARE(desk.cell("Label").data().toString(), QStringLiteral("ERROR"));
-    QCOMPARE(describe(desk.open("Label")), QStringLiteral("\"\""));
 }
 
 void TestGenParamDelegate::fallsBackToTheStandardEditor()
 {
     Desk desk;
-    QVERIFY(QTest::qWaitForWindowActive(&desk.view));
     QVERIFY(!desk.cell("Bytes").data(Qt::UserRole + 1).value<QWidget*>());
     QCOMPARE(describe(desk.open("Bytes")), QStringLiteral("\"\""));
-    pressKeys(QStringLiteral("'1 Return"));
+    pressKeys("'1 Return");
     QTRY_VERIFY(!desk.note().isEmpty());
     QCOMPARE(QByteArray(QMetaType::typeName(desk.cell("Width").data(Qt::UserRole + 1).userType())),
              QByteArray("ControlData"));

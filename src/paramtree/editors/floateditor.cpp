@@ -69,8 +69,3 @@ QAbstractSpinBox::StepEnabled FloatEditor::stepEnabled() const
         enabled |= StepDownEnabled;
     return enabled;
 }
-
-QString FloatEditor::numberPart(const QString& text) const
-{
-    return text.endsWith(suffix()) ? text.chopped(suffix().length()) : text;
-}

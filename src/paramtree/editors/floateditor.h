@@ -34,8 +34,6 @@ protected:
     StepEnabled stepEnabled() const override;
 
 private:
-    QString numberPart(const QString& text) const;
-
     FloatLimits m_limits;
     const int m_displayPrecision;
 };

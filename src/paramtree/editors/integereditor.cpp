@@ -1,5 +1,7 @@
 #include "integereditor.h"
 
+#include "stepgrid.h"
+
 IntegerEditor::IntegerEditor(const IntegerLimits& limits, int base, const QString& unit)
     : m_limits(limits)
 {
@@ -7,6 +9,7 @@ IntegerEditor::IntegerEditor(const IntegerLimits& limits, int base, const QStrin
     setDisplayIntegerBase(base);
     setSuffix(unit);
     setSingleStep(qMax(limits.increment, qint64{1}));
+    connect(lineEdit(), &QLineEdit::textEdited, this, &IntegerEditor::beginSnapping);
 }
 
 void IntegerEditor::adopt(const ParamEditor& fresh)
@@ -18,6 +21,17 @@ void IntegerEditor::adopt(const ParamEditor& fresh)
     setSingleStep(other->singleStep());
 }
 
+void IntegerEditor::stepBy(int steps)
+{
+    beginSnapping();
+    QtZetoSpinBoxVal64::stepBy(steps);
+}
+
+void IntegerEditor::beginSnapping()
+{
+    setSnapToStep(m_limits.increment > 1 && minimum() == m_limits.minimum);
+}
+
 void IntegerEditor::showValue(const QVariant& value)
 {
     const bool isNumber = value.userType() == QMetaType::LongLong;
@@ -27,7 +41,9 @@ void IntegerEditor::showValue(const QVariant& value)
     setRange(qMin(m_limits.minimum, number), qMax(m_limits.maximum, number));
     setSnapToStep(false);
     setValue(number);
-    setSnapToStep(m_limits.increment > 1 && minimum() == m_limits.minimum);
+    // Off the grid it also stays as it is when Return confirms it.
+    if (StepGrid::snapped(number, minimum(), maximum(), singleStep()) == number)
+        beginSnapping();
     if (!isNumber)
         clear();
 }

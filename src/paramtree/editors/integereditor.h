@@ -21,11 +21,15 @@ public:
     IntegerEditor(const IntegerLimits& limits, int base, const QString& unit);
 
     void adopt(const ParamEditor& fresh) override;
+    void stepBy(int steps) override;
 
 protected:
     void showValue(const QVariant& value) override;
     QString complaintAbout(const QString& text) const override;
 
 private:
+    /// What a person enters lies on the grid.
+    void beginSnapping();
+
     IntegerLimits m_limits;
 };

@@ -43,7 +43,7 @@ public:
 
     QString complaint() const final
     {
-        const QString text = this->lineEdit()->text().chopped(this->suffix().length()).trimmed();
+        const QString text = numberPart(this->lineEdit()->text()).trimmed();
         const bool isWrong = m_isTyping && !text.isEmpty() && !this->hasAcceptableInput();
         return isWrong ? complaintAbout(text) : QString();
     }
@@ -53,6 +53,12 @@ protected:
     virtual void showValue(const QVariant& value) = 0;
 
     virtual QString complaintAbout(const QString& text) const = 0;
+
+    /// \a text without the suffix, which it lacks while it is typed over.
+    QString numberPart(const QString& text) const
+    {
+        return text.endsWith(this->suffix()) ? text.chopped(this->suffix().length()) : text;
+    }
 
 private:
     bool m_isTyping = false; ///< the text may have no acceptable state yet
