@@ -193,14 +193,18 @@ void GenParamTreeModelPrivate::emitDataChanged(const GenParamTreeItem& item, con
 
 void GenParamTreeModelPrivate::resolveKind(GenParamTreeItem& item) const
 {
-    if (item.kind == GenParamKind::Unknown)
-        static_cast<GenParamFeature&>(item) = featureInUse(*item.value, items.trustsRepresentation());
+    if (item.kind != GenParamKind::Unknown)
+        return;
+    const GenParamFeature feature = featureInUse(*item.value, items.trustsRepresentation());
+    item.interface_ = feature.interface_; // but not the value: callbacks look rows up by it on any thread
+    item.kind = feature.kind;
 }
 
-void GenParamTreeModelPrivate::ensureRead(GenParamTreeItem& item)
+bool GenParamTreeModelPrivate::ensureRead(GenParamTreeItem& item)
 {
     if (item.state == GenParamState::Unread)
         read(item);
+    return m_isAttached;
 }
 
 bool GenParamTreeModelPrivate::read(GenParamTreeItem& item)
@@ -225,7 +229,8 @@ bool GenParamTreeModelPrivate::read(GenParamTreeItem& item)
 
 QVariant GenParamTreeModelPrivate::valueData(GenParamTreeItem& item, int role)
 {
-    ensureRead(item);
+    if (!ensureRead(item))
+        return QVariant();
     return role == Qt::EditRole ? editValue(item.kind, item.reading()) : displayTextOf(item);
 }
 
@@ -239,6 +244,8 @@ QString GenParamTreeModelPrivate::displayTextOf(GenParamTreeItem& item)
             m_errors.readFailed(*item.value, *fault);
         }
     }
+    if (!m_isAttached)
+        return QString(); // given up by a receiver of the error's signal
     if (m_commands.isBusy(*item.value))
         return GenParamTreeModel::tr("Executing...");
     return displayText(item.kind, item.reading(), format);
@@ -246,8 +253,7 @@ QString GenParamTreeModelPrivate::displayTextOf(GenParamTreeItem& item)
 
 QVariant GenParamTreeModelPrivate::control(GenParamTreeItem& item)
 {
-    ensureRead(item);
-    if (!GenApi::IsWritable(accessMode(item)))
+    if (!ensureRead(item) || !GenApi::IsWritable(accessMode(item)))
         return QVariant();
     m_edited = &item;
     return QVariant::fromValue(prepareEditor(item, item.state == GenParamState::Good));
@@ -255,8 +261,9 @@ QVariant GenParamTreeModelPrivate::control(GenParamTreeItem& item)
 
 QVariant GenParamTreeModelPrivate::busyData(GenParamTreeItem& item)
 {
-    ensureRead(item);
-    return item.kind == GenParamKind::Command ? m_commands.isBusy(*item.value) : QVariant();
+    if (!ensureRead(item) || item.kind != GenParamKind::Command)
+        return QVariant();
+    return m_commands.isBusy(*item.value);
 }
 
 GenApi::EAccessMode GenParamTreeModelPrivate::accessMode(const GenParamTreeItem& item) const

@@ -68,7 +68,8 @@ private:
     /// Makes up for a kind that could not be asked when the tree was built. Throws what GenApi throws.
     void resolveKind(GenParamTreeItem& item) const;
     /// Reads the feature unless what is known of it is good enough to be shown.
-    void ensureRead(GenParamTreeItem& item);
+    /// \return false when a receiver of an error's signal gave the rows up, \a item among them.
+    bool ensureRead(GenParamTreeItem& item);
     /// \return whether anything differs from what was read before.
     bool read(GenParamTreeItem& item);
     QString displayTextOf(GenParamTreeItem& item);

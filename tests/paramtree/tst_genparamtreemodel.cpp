@@ -12,60 +12,6 @@ using ZetoNodeMap::NodeMapBuilder;
 
 namespace {
 
-/// Counts the reads of values, of one name or of all.
-class ReadCounter
-{
-public:
-    explicit ReadCounter(NodeMap& map)
-        : m_map(map)
-    {
-        m_map.setAccessHook([this](const char* call, const GenApi::INode*) {
-            if (qstrcmp(call, "GetValue") == 0 || qstrcmp(call, "ToString") == 0)
-                ++m_reads;
-        });
-    }
-    ~ReadCounter() { m_map.setAccessHook({}); }
-    Q_DISABLE_COPY(ReadCounter)
-
-    int take() { return std::exchange(m_reads, 0); }
-
-private:
-    NodeMap& m_map;
-    int m_reads = 0;
-};
-
-/// Writes down what a model signals: changed cells by name, errors as "!name: reason" and "ok name".
-class SignalLog
-{
-public:
-    explicit SignalLog(GenParamTreeModel& model)
-    {
-        QObject::connect(&model, &GenParamTreeModel::dataChanged, &m_context,
-                         [this](const QModelIndex& from, const QModelIndex& to, const QVector<int>& roles) {
-                             const bool isOneCell = from == to && from.column() == 1 && roles.isEmpty();
-                             m_lines += isOneCell ? from.siblingAtColumn(0).data().toString()
-                                                  : QStringLiteral("more than a cell");
-                         });
-        QObject::connect(&model, &GenParamTreeModel::errorAppeared, &m_context,
-                         [this](const QString& name, const QString& reason) {
-                             m_lines += QStringLiteral("!%1: %2").arg(name, reason);
-                         });
-        QObject::connect(&model, &GenParamTreeModel::errorDisappeared, &m_context,
-                         [this](const QString& name) { m_lines += QStringLiteral("ok ") + name; });
-    }
-
-    QString take()
-    {
-        const QString lines = m_lines.join(QStringLiteral("; "));
-        m_lines.clear();
-        return lines;
-    }
-
-private:
-    QObject m_context;
-    QStringList m_lines;
-};
-
 /// A camera with a feature of every kind and some that depend on others.
 std::unique_ptr<NodeMap> camera()
 {
@@ -93,18 +39,56 @@ QString allTexts(const QAbstractItemModel& model, const QModelIndex& parent = QM
 {
     QString texts;
     for (int row = 0; row < model.rowCount(parent); ++row) {
-        const QModelIndex index = model.index(row, 0, parent);
-        texts +=
-            QStringLiteral("%1=%2 ").arg(index.data().toString(), index.siblingAtColumn(1).data().toString());
-        texts += allTexts(model, index);
+        const QModelIndex name = model.index(row, 0, parent);
+        const QString value = name.siblingAtColumn(1).data().toString();
+        texts += name.data().toString() + '=' + value + ' ' + allTexts(model, name);
     }
     return texts;
 }
 
-[[noreturn]] void refuse()
+/// A camera in a model, what the model reads of it and what it signals.
+class Shown
 {
-    throw ACCESS_EXCEPTION("refused");
-}
+public:
+    Shown()
+    {
+        map->setAccessHook([this](const char* call, const GenApi::INode*) {
+            reads += qstrcmp(call, "GetValue") == 0 || qstrcmp(call, "ToString") == 0;
+            if (qstrcmp(call, refused) == 0)
+                throw ACCESS_EXCEPTION(reason);
+        });
+        const auto log = [this](const QString& line) { lines += line; };
+        QObject::connect(&model, &GenParamTreeModel::dataChanged, &context,
+                         [log](const QModelIndex& from, const QModelIndex& to, const QVector<int>& roles) {
+                             const bool isOneCell = from == to && from.column() == 1 && roles.isEmpty();
+                             log(isOneCell ? from.siblingAtColumn(0).data().toString() : "more than a cell");
+                         });
+        QObject::connect(
+            &model, &GenParamTreeModel::errorAppeared, &context,
+            [log](const QString& name, const QString& reason) { log('!' + name + ": " + reason); });
+        QObject::connect(&model, &GenParamTreeModel::errorDisappeared, &context,
+                         [log](const QString& name) { log("ok " + name); });
+    }
+
+    QModelIndex cell(const QString& name) const { return valueCell(model, name); }
+    int takeReads() { return std::exchange(reads, 0); }
+    QString takeSignals() { return std::exchange(lines, {}).join("; "); }
+    /// As a view that shows everything, with nothing to report.
+    void readAll()
+    {
+        allTexts(model);
+        takeReads();
+        takeSignals();
+    }
+
+    const char* refused = ""; ///< the call that the camera refuses
+    const char* reason = "refused";
+    int reads = 0;
+    std::unique_ptr<NodeMap> map = camera();
+    GenParamTreeModel model{map.get()};
+    QStringList lines; ///< changed cells by name, errors as "!name: reason" and "ok name"
+    QObject context;
+};
 
 } // namespace
 
@@ -117,7 +101,6 @@ private slots:
     void mirrorsCategories();
     void readsNothingBeforeItIsShown();
     void describesCells();
-    void believesRepresentations_data();
     void believesRepresentations();
     void writes_data();
     void writes();
@@ -126,7 +109,6 @@ private slots:
     void reportsErrorsInPairs();
     void keepsARefusalUntilTheValueChanges();
     void givesUpTheNodeMap();
-    void composesToolTips_data();
     void composesToolTips();
 };
 
@@ -135,20 +117,16 @@ void TestGenParamTreeModel::mirrorsCategories_data()
 {
     QTest::addColumn<QString>("categories");
     QTest::addColumn<QString>("tree");
-    QTest::newRow("nested") << "Root:A,x,B A:C,y C:z B:"
-                            << "A(C(z) y) x B";
-    QTest::newRow("a feature in several categories") << "Root:A,B,x A:x B:y,x"
-                                                     << "A(x) B(y x) x";
-    QTest::newRow("a category twice") << "Root:A,B A:x B:A"
-                                      << "A(x) B(A(x))";
-    QTest::newRow("a cycle ends at the ancestor") << "Root:A A:B,x B:A,y"
-                                                  << "A(B(A y) x)";
-    QTest::newRow("a cycle to the root") << "Root:A,Root A:Root,x"
-                                         << "A(Root x) Root";
-    QTest::newRow("empty") << "Root:"
-                           << "";
-    QTest::newRow("no root") << "A:x"
-                             << "";
+    const auto row = [](const char* name, const char* categories, const char* tree) {
+        QTest::newRow(name) << categories << tree;
+    };
+    row("nested", "Root:A,x,B A:C,y C:z B:", "A(C(z) y) x B");
+    row("a feature in several categories", "Root:A,B,x A:x B:y,x", "A(x) B(y x) x");
+    row("a category twice", "Root:A,B A:x B:A", "A(x) B(A(x))");
+    row("a cycle ends at the ancestor", "Root:A A:B,x B:A,y", "A(B(A y) x)");
+    row("a cycle to the root", "Root:A,Root A:Root,x", "A(Root x) Root");
+    row("empty", "Root:", "");
+    row("no root", "A:x", "");
 }
 
 void TestGenParamTreeModel::mirrorsCategories()
@@ -156,17 +134,16 @@ void TestGenParamTreeModel::mirrorsCategories()
     QFETCH(const QString, categories);
     NodeMapBuilder b;
     QStringList names;
-    for (const QString& category : categories.split(QLatin1Char(' '))) {
-        const QStringList parts = category.split(QLatin1Char(':'));
-        const QStringList members = parts[1].split(QLatin1Char(','), Qt::SkipEmptyParts);
+    for (const QString& category : categories.split(' ')) {
+        const QStringList members = category.section(':', 1).split(',', Qt::SkipEmptyParts);
         std::vector<std::string> list;
         for (const QString& member : members)
             list.push_back(member.toStdString());
-        b.category(parts[0].toStdString()).contains(list);
+        b.category(category.section(':', 0, 0).toStdString()).contains(list);
         names += members;
     }
     names.removeDuplicates();
-    for (const QString& name : names)
+    for (const QString& name : qAsConst(names))
         if (!categories.contains(name + ':'))
             b.integer(name.toStdString());
     const auto map = b.build();
@@ -177,64 +154,55 @@ void TestGenParamTreeModel::mirrorsCategories()
 
 void TestGenParamTreeModel::readsNothingBeforeItIsShown()
 {
-    const auto map = camera();
-    ReadCounter reads(*map);
-    GenParamTreeModel model(map.get());
-    treeText(model);
-    QCOMPARE(reads.take(), 0);
-    allTexts(model);
-    QCOMPARE(reads.take(), 10); // neither the command nor the write-only feature, and Gain once
-    allTexts(model);
-    QCOMPARE(reads.take(), 0);
+    Shown shown;
+    treeText(shown.model);
+    QCOMPARE(shown.takeReads(), 0);
+    allTexts(shown.model);
+    QCOMPARE(shown.takeReads(), 10); // neither the command nor the write-only feature, and Gain once
+    allTexts(shown.model);
+    QCOMPARE(shown.takeReads(), 0);
 }
 
 void TestGenParamTreeModel::describesCells()
 {
-    const auto map = camera();
-    GenParamTreeModel model(map.get());
-    const QAbstractItemModelTester tester(&model);
+    const Shown shown;
+    const GenParamTreeModel& model = shown.model;
     QCOMPARE(
         allTexts(model),
         QStringLiteral("Image= Width=640px OffsetX=0 Format=Mono8 Gain=6.5dB Reverse=True Name=left Control= "
                        "Trigger=Execute Gain=6.5dB Lock=False Address=10.0.0.1 Secret=<Value not readable> "
                        "Serial=7 Temperature=30 "));
-    const auto flagsOf = [&model](const char* name) { return int(valueCell(model, name).flags()); };
-    QCOMPARE(flagsOf("Serial"), 33);
-    QCOMPARE(flagsOf("Secret"), 35);
-    QCOMPARE(flagsOf("Trigger"), 35);
-    QCOMPARE(int(valueCell(model, "Width").siblingAtColumn(0).flags()), 33);
+    const QModelIndex width = shown.cell("Width");
+    QCOMPARE(int(shown.cell("Serial").flags()), 33);
+    QCOMPARE(int(shown.cell("Secret").flags()), 35);
+    QCOMPARE(int(shown.cell("Trigger").flags()), 35);
+    QCOMPARE(int(width.siblingAtColumn(0).flags()), 33);
     QCOMPARE(model.headerData(1, Qt::Vertical).toString(), QStringLiteral("Value"));
     QCOMPARE(model.headerData(2, Qt::Horizontal), QVariant());
     QCOMPARE(model.headerData(1, Qt::Horizontal, Qt::ToolTipRole), QVariant());
-    QCOMPARE(model.columnCount(valueCell(model, "Width").siblingAtColumn(0)), 2);
+    QCOMPARE(model.columnCount(width.siblingAtColumn(0)), 2);
 
-    auto* feature = valueCell(model, "Width").data(Qt::UserRole).value<GenApi::IValue*>();
-    QVERIFY(feature->GetNode()->GetName() == "Width");
-    QCOMPARE(valueCell(model, "Width").data(Qt::EditRole), QVariant(qint64{640}));
-    QCOMPARE(valueCell(model, "Address").data(Qt::EditRole), QVariant("10.0.0.1"));
+    QVERIFY(width.data(Qt::UserRole).value<GenApi::IValue*>()->GetNode()->GetName() == "Width");
+    QCOMPARE(width.data(Qt::EditRole), QVariant(qint64{640}));
+    QCOMPARE(shown.cell("Address").data(Qt::EditRole), QVariant("10.0.0.1"));
     QVERIFY(model.index(0, 0).data(Qt::BackgroundRole).value<QBrush>().color().alpha() < 255);
-    QCOMPARE(valueCell(model, "Width").data(Qt::BackgroundRole), QVariant());
-}
-
-void TestGenParamTreeModel::believesRepresentations_data()
-{
-    QTest::addColumn<int>("declared");
-    QTest::addColumn<QString>("texts");
-    QTest::newRow("declared as an address: all declarations hold")
-        << int(GenApi::IPV4Address) << "GevMACAddress=11 GevCurrentIPAddress=0.0.0.1 ";
-    QTest::newRow("not declared: the names tell")
-        << int(GenApi::PureNumber) << "GevMACAddress=00:00:00:00:00:0b GevCurrentIPAddress=0.0.0.1 ";
+    QCOMPARE(width.data(Qt::BackgroundRole), QVariant());
 }
 
 void TestGenParamTreeModel::believesRepresentations()
 {
-    QFETCH(const int, declared);
-    NodeMapBuilder b;
-    b.category("Root").contains({"GevMACAddress", "GevCurrentIPAddress"});
-    b.integer("GevMACAddress").value(11);
-    b.integer("GevCurrentIPAddress").representation(GenApi::ERepresentation(declared)).value(1);
-    const auto map = b.build();
-    QTEST(allTexts(GenParamTreeModel(map.get())), "texts");
+    const auto textsWhenDeclared = [](GenApi::ERepresentation representation) {
+        NodeMapBuilder b;
+        b.category("Root").contains({"GevMACAddress", "GevCurrentIPAddress"});
+        b.integer("GevMACAddress").value(11);
+        b.integer("GevCurrentIPAddress").representation(representation).value(1);
+        const auto map = b.build();
+        return allTexts(GenParamTreeModel(map.get()));
+    };
+    QCOMPARE(textsWhenDeclared(GenApi::IPV4Address),
+             QStringLiteral("GevMACAddress=11 GevCurrentIPAddress=0.0.0.1 "));
+    QCOMPARE(textsWhenDeclared(GenApi::PureNumber),
+             QStringLiteral("GevMACAddress=00:00:00:00:00:0b GevCurrentIPAddress=0.0.0.1 "));
 }
 
 void TestGenParamTreeModel::writes_data()
@@ -243,28 +211,30 @@ void TestGenParamTreeModel::writes_data()
     QTest::addColumn<QVariant>("value");
     QTest::addColumn<bool>("taken");
     QTest::addColumn<QString>("text");
-    QTest::newRow("integer") << "Width" << QVariant(qint64{656}) << true << "656px";
-    QTest::newRow("integer off the increment") << "Width" << QVariant(657) << false << "640px";
-    QTest::newRow("beyond 64 bits") << "Width" << QVariant(std::numeric_limits<quint64>::max()) << false
-                                    << "640px";
-    QTest::newRow("float beyond 64 bits") << "Width" << QVariant(1e300) << false << "640px";
-    QTest::newRow("no integer") << "Width" << QVariant(QVariantList()) << false << "640px";
-    QTest::newRow("address") << "Address" << QVariant("192.168.1.10") << true << "192.168.1.10";
-    QTest::newRow("boolean") << "Reverse" << QVariant(false) << true << "False";
-    QTest::newRow("float") << "Gain" << QVariant(0.5) << true << "0.5dB";
-    QTest::newRow("float outside") << "Gain" << QVariant(24.5) << false << "6.5dB";
-    QTest::newRow("no float") << "Gain" << QVariant("loud") << false << "6.5dB";
-    QTest::newRow("string") << "Name" << QVariant("rechts") << true << "rechts";
-    QTest::newRow("null string") << "Name" << QVariant(QString()) << true << "";
-    QTest::newRow("symbolic name") << "Format" << QVariant("Mono16") << true << "Mono16";
-    QTest::newRow("entry's value") << "Format" << QVariant(5) << true << "Mono16";
-    QTest::newRow("no entry") << "Format" << QVariant("Mono17") << false << "Mono8";
-    QTest::newRow("command") << "Trigger" << QVariant() << true << "Execute";
-    QTest::newRow("read-only") << "Serial" << QVariant(8) << false << "7";
-    QTest::newRow("write-only") << "Secret" << QVariant(8) << true << "<Value not readable>";
-    QTest::newRow("a placeholder is no value")
-        << "Secret" << QVariant("<Value not readable>") << false << "<Value not readable>";
-    QTest::newRow("category") << "Image" << QVariant(1) << false << "";
+    const auto row = [](const char* feature, const QVariant& value, bool taken, const char* text) {
+        QTest::addRow("%s %s %s", feature, value.typeName(), qPrintable(value.toString()))
+            << feature << value << taken << text;
+    };
+    row("Width", qint64{656}, true, "656px");
+    row("Width", 657, false, "640px"); // off the increment
+    row("Width", std::numeric_limits<quint64>::max(), false, "640px");
+    row("Width", 1e300, false, "640px");
+    row("Width", QVariantList(), false, "640px");
+    row("Address", "192.168.1.10", true, "192.168.1.10");
+    row("Reverse", false, true, "False");
+    row("Gain", 0.5, true, "0.5dB");
+    row("Gain", 24.5, false, "6.5dB"); // outside
+    row("Gain", "loud", false, "6.5dB");
+    row("Name", "rechts", true, "rechts");
+    row("Name", QString(), true, "");
+    row("Format", "Mono16", true, "Mono16");
+    row("Format", 5, true, "Mono16");
+    row("Format", "Mono17", false, "Mono8");
+    row("Trigger", QVariant(), true, "Execute");
+    row("Serial", 8, false, "7");
+    row("Secret", 8, true, "<Value not readable>");
+    row("Secret", "<Value not readable>", false, "<Value not readable>"); // a placeholder is no value
+    row("Image", 1, false, "");
 }
 
 void TestGenParamTreeModel::writes()
@@ -272,209 +242,158 @@ void TestGenParamTreeModel::writes()
     QFETCH(const QString, feature);
     QFETCH(const QVariant, value);
     QFETCH(const bool, taken);
-    const auto map = camera();
-    GenParamTreeModel model(map.get());
-    const QAbstractItemModelTester tester(&model);
-    const QModelIndex cell = valueCell(model, feature);
-    allTexts(model);
-    SignalLog log(model);
-    QCOMPARE(model.setData(cell, value), taken);
-    const QString rows = feature == QLatin1String("Gain") ? "Gain; Gain" : feature;
-    const QString signalled = log.take();
+    Shown shown;
+    const QAbstractItemModelTester tester(&shown.model);
+    const QModelIndex cell = shown.cell(feature);
+    shown.readAll();
+    QCOMPARE(shown.model.setData(cell, value), taken);
+    const QString rows = feature == "Gain" ? "Gain; Gain" : feature;
+    const QString signalled = shown.takeSignals();
     QVERIFY2(taken ? signalled == rows : !signalled.contains(rows) || signalled.startsWith('!'),
              qPrintable(signalled));
     QTEST(cell.data().toString(), "text");
-    QVERIFY(!model.setData(cell.siblingAtColumn(0), value));
-    QVERIFY(!model.setData(cell, value, Qt::DisplayRole));
+    QVERIFY(!shown.model.setData(cell.siblingAtColumn(0), value));
+    QVERIFY(!shown.model.setData(cell, value, Qt::DisplayRole));
 }
 
 void TestGenParamTreeModel::reportsEachChangeOnce()
 {
-    const auto map = camera();
-    GenParamTreeModel model(map.get());
-    SignalLog log(model);
-    ReadCounter reads(*map);
-    const GenApi::CIntegerPtr width = map->GetNode("Width");
-    const GenApi::CFloatPtr gain = map->GetNode("Gain");
+    Shown shown;
+    shown.map->assign("Width", int64_t{656});
+    shown.reads = 0;
+    QCOMPARE(shown.takeSignals(), QStringLiteral("Width; OffsetX")); // not read yet: it may have changed
 
-    width->SetValue(656);
-    QCOMPARE(log.take(), QStringLiteral("Width; OffsetX")); // not read yet: it may have changed
-    QCOMPARE(reads.take(), 0);
+    shown.readAll();
+    shown.map->assign("Width", int64_t{672});
+    QCOMPARE(shown.takeSignals(), QStringLiteral("Width")); // OffsetX was called back too, but stayed
+    QCOMPARE(shown.takeReads(), 2);
+    QCOMPARE(shown.cell("Width").data().toString(), QStringLiteral("672px"));
+    QCOMPARE(shown.takeReads(), 0);
 
-    allTexts(model);
-    reads.take();
-    width->SetValue(672);
-    QCOMPARE(log.take(), QStringLiteral("Width")); // OffsetX was called back too, but stayed
-    QCOMPARE(reads.take(), 2);
-    QCOMPARE(valueCell(model, "Width").data().toString(), QStringLiteral("672px"));
-    QCOMPARE(reads.take(), 0);
+    shown.map->assign("Gain", 1.0);
+    QCOMPARE(shown.takeSignals(), QStringLiteral("Gain; Gain"));
+    QCOMPARE(shown.takeReads(), 1);
 
-    gain->SetValue(1);
-    QCOMPARE(log.take(), QStringLiteral("Gain; Gain"));
-    QCOMPARE(reads.take(), 1);
-
-    model.setData(valueCell(model, "Lock"), true);
-    QCOMPARE(log.take(), QStringLiteral("OffsetX; Lock")); // no longer writable
-    QCOMPARE(int(valueCell(model, "OffsetX").flags()), 33);
-    QCOMPARE(reads.take(), 1);
+    shown.model.setData(shown.cell("Lock"), true);
+    QCOMPARE(shown.takeSignals(), QStringLiteral("OffsetX; Lock")); // no longer writable
+    QCOMPARE(int(shown.cell("OffsetX").flags()), 33);
+    QCOMPARE(shown.takeReads(), 1);
 }
 
 void TestGenParamTreeModel::refreshesWhatIsNamed()
 {
-    const auto map = camera();
-    GenParamTreeModel model(map.get());
-    allTexts(model);
-    SignalLog log(model);
-    ReadCounter reads(*map);
-    const QModelIndex temperature = valueCell(model, "Temperature");
-
-    map->assign("Temperature", int64_t{30});
-    log.take();
-    allTexts(model);
-    reads.take();
-    model.refresh(10, {temperature, temperature.siblingAtColumn(0), valueCell(model, "Width")});
-    QCOMPARE(reads.take(), 2);
-    QCOMPARE(log.take(), QString());
+    Shown shown;
+    const QModelIndex temperature = shown.cell("Temperature");
+    shown.readAll();
+    shown.model.refresh(10, {temperature, temperature.siblingAtColumn(0), shown.cell("Width")});
+    QCOMPARE(shown.takeReads(), 2);
+    QCOMPARE(shown.takeSignals(), QString());
 
     // Polled by the node map but not on screen: reported unread.
-    model.refresh(200, {valueCell(model, "Width")});
-    QCOMPARE(reads.take(), 1);
-    QCOMPARE(log.take(), QStringLiteral("Temperature"));
+    shown.model.refresh(200, {shown.cell("Width")});
+    QCOMPARE(shown.takeReads(), 1);
+    QCOMPARE(shown.takeSignals(), QStringLiteral("Temperature"));
 }
 
 void TestGenParamTreeModel::reportsErrorsInPairs()
 {
-    const auto map = camera();
-    GenParamTreeModel model(map.get());
-    SignalLog log(model);
-    const QModelIndexList gains = valueCells(model, "Gain");
-    map->setAccessHook([](const char* call, const GenApi::INode*) {
-        if (qstrcmp(call, "GetValue") == 0)
-            refuse();
-    });
+    Shown shown;
+    const QModelIndexList gains = valueCells(shown.model, "Gain");
+    shown.refused = "GetValue";
     QCOMPARE(gains[0].data().toString(), QStringLiteral("ERROR"));
     QCOMPARE(gains[1].data().toString(), QStringLiteral("ERROR"));
     QVERIFY(gains[0].data(Qt::BackgroundRole).isValid());
     QCOMPARE(int(gains[0].flags()), 35); // a new value may be the cure
-    model.refresh(0, gains);
-    QCOMPARE(log.take(), QStringLiteral("!Gain: refused"));
+    shown.model.refresh(0, gains);
+    QCOMPARE(shown.takeSignals(), QStringLiteral("!Gain: refused"));
 
-    map->setAccessHook([](const char* call, const GenApi::INode*) {
-        if (qstrcmp(call, "GetValue") == 0)
-            throw TIMEOUT_EXCEPTION("");
-    });
-    model.refresh(0, gains);
-    QCOMPARE(log.take(), QStringLiteral("ok Gain; !Gain: Unknown Error"));
+    shown.reason = "";
+    shown.model.refresh(0, gains);
+    QCOMPARE(shown.takeSignals(), QStringLiteral("ok Gain; !Gain: Unknown Error"));
 
-    map->setAccessHook({});
-    model.refresh(0, gains);
-    QCOMPARE(log.take(), QStringLiteral("ok Gain; Gain; Gain"));
+    shown.refused = "";
+    shown.model.refresh(0, gains);
+    QCOMPARE(shown.takeSignals(), QStringLiteral("ok Gain; Gain; Gain"));
     QCOMPARE(gains[1].data().toString(), QStringLiteral("6.5dB"));
 }
 
 void TestGenParamTreeModel::keepsARefusalUntilTheValueChanges()
 {
-    const auto map = camera();
-    GenParamTreeModel model(map.get());
-    allTexts(model);
-    SignalLog log(model);
-    const QModelIndex width = valueCell(model, "Width");
-    map->setAccessHook([](const char* call, const GenApi::INode*) {
-        if (qstrcmp(call, "SetValue") == 0)
-            refuse();
-    });
-    QVERIFY(!model.setData(width, 656));
-    QVERIFY(!model.setData(width, 656));
-    QCOMPARE(log.take(), QStringLiteral("!Width: refused"));
-    model.refresh(0, {width});
-    QCOMPARE(log.take(), QString());
-    map->setAccessHook({});
-    QVERIFY(model.setData(width, 656));
-    QCOMPARE(log.take(), QStringLiteral("ok Width; Width"));
+    Shown shown;
+    shown.readAll();
+    const QModelIndex width = shown.cell("Width");
+    shown.refused = "SetValue";
+    QVERIFY(!shown.model.setData(width, 656));
+    QVERIFY(!shown.model.setData(width, 656));
+    QCOMPARE(shown.takeSignals(), QStringLiteral("!Width: refused"));
+    shown.model.refresh(0, {width});
+    QCOMPARE(shown.takeSignals(), QString());
+    shown.refused = "";
+    QVERIFY(shown.model.setData(width, 656));
+    QCOMPARE(shown.takeSignals(), QStringLiteral("ok Width; Width"));
 }
 
 void TestGenParamTreeModel::givesUpTheNodeMap()
 {
-    auto map = camera();
-    GenParamTreeModel model(map.get());
-    const QAbstractItemModelTester tester(&model);
-    SignalLog log(model);
-    model.detach();
-    QCOMPARE(model.rowCount(), 0);
-    map->InvalidateNodes();
-    QCOMPARE(log.take(), QString());
-    map.reset();
-    model.refresh(100, {});
-    model.detach();
+    Shown shown;
+    const QAbstractItemModelTester tester(&shown.model);
+    shown.model.detach();
+    QCOMPARE(shown.model.rowCount(), 0);
+    shown.map->InvalidateNodes();
+    QCOMPARE(shown.takeSignals(), QString());
+    shown.map.reset();
+    shown.model.refresh(100, {});
+    shown.model.detach();
 
-    // Also from within the report of an error.
-    const auto other = camera();
-    GenParamTreeModel failing(other.get());
-    const QModelIndex cell = valueCell(failing, QStringLiteral("Width"));
-    cell.data();
-    connect(&failing, &GenParamTreeModel::errorAppeared, &failing, [&failing] { failing.detach(); });
-    other->setAccessHook([](const char* call, const GenApi::INode*) {
-        if (qstrcmp(call, "GetValue") == 0)
-            refuse();
-    });
-    failing.refresh(0, {cell});
-    QCOMPARE(failing.rowCount(), 0);
-}
-
-void TestGenParamTreeModel::composesToolTips_data()
-{
-    QTest::addColumn<QString>("feature");
-    QTest::addColumn<QStringList>("lines");
-    QTest::newRow("integer") << "Width" << QStringList{"<i>Name:</i> Width",
-                                                       "<i>Type:</i> Integer",
-                                                       "<i>Selectors:</i> Chooser",
-                                                       "<i>Limits</i>: Min: 16px, Max: 4096px",
-                                                       "<i>Increment</i>: 4px",
-                                                       "<i>Description:</i> Columns &lt;b&gt; &amp; more",
-                                                       "<i>Streamable:</i> True",
-                                                       "<i>Cachable:</i> WriteThrough"};
-    QTest::newRow("float with valid values") << "Rate"
-                                             << QStringList{"<i>Name:</i> Rate",
-                                                            "<i>Type:</i> Float",
-                                                            "<i>Limits</i>: Min: 1.00, Max: 2.00",
-                                                            "<i>Valid values</i>: 1.00, 1.50, 2.00",
-                                                            "<i>Description:</i> short help",
-                                                            "<i>Streamable:</i> False",
-                                                            "<i>Cachable:</i> NoCache"};
-    QTest::newRow("enumeration") << "Chooser" << QStringList{"<i>Name:</i> Chooser",
-                                                             "<i>Type:</i> Enumeration",
-                                                             "<i>Enumeration entries</i>:",
-                                                             "- One",
-                                                             "- Two",
-                                                             "<i>Streamable:</i> False",
-                                                             "<i>Cachable:</i> WriteAround"};
-    QTest::newRow("not available") << "Gone"
-                                   << QStringList{"<i>Name:</i> Gone", "<i>Type:</i> Integer",
-                                                  "<i>Streamable:</i> False",
-                                                  "<i>Cachable:</i> WriteThrough"};
-    QTest::newRow("category") << "Sub" << QStringList{"<i>Name:</i> Sub", "<i>Description:</i> a group"};
+    // Also from within the report of an error, whatever found it.
+    const auto byReading = [](const QModelIndex& cell, GenParamTreeModel&) { cell.data(); };
+    const auto byEditing = [](const QModelIndex& cell, GenParamTreeModel&) { cell.data(Qt::UserRole + 1); };
+    const auto byRefresh = [](const QModelIndex& cell, GenParamTreeModel& model) {
+        model.refresh(0, {cell});
+    };
+    using Find = void (*)(const QModelIndex&, GenParamTreeModel&);
+    for (const Find find : {Find(byReading), Find(byEditing), Find(byRefresh)}) {
+        Shown failing;
+        connect(&failing.model, &GenParamTreeModel::errorAppeared, this, [&] { failing.model.detach(); });
+        failing.refused = "GetValue";
+        find(failing.cell("Width"), failing.model);
+        QCOMPARE(failing.model.rowCount(), 0);
+    }
 }
 
 void TestGenParamTreeModel::composesToolTips()
 {
-    QFETCH(const QString, feature);
     NodeMapBuilder b;
     b.category("Root").contains({"Width", "Rate", "Chooser", "Gone", "Sub"});
     b.category("Sub").description("a group");
-    b.integer("Width").limits(16, 4096).increment(4).unit("px").streamable().value(640).description(
+    b.integer("Width").limits(16, 4096).increment(4).unit("px").streamable().description(
         "Columns <b> & more");
-    b.floating("Rate")
-        .limits(1, 2)
-        .validValues({1, 1.5, 2})
-        .notation(GenApi::fnFixed, 2)
-        .toolTip("short help")
-        .caching(GenApi::NoCache);
+    b.floating("Rate").validValues({1, 1.5}).notation(GenApi::fnFixed, 2).toolTip("short help").limits(1, 2);
     b.enumeration("Chooser").entry("One", 1).entry("Two", 2).selects({"Width"}).caching(GenApi::WriteAround);
-    b.integer("Gone").access(GenApi::NA);
+    b.integer("Gone").access(GenApi::NA).caching(GenApi::NoCache);
     const auto map = b.build();
-    GenParamTreeModel model(map.get());
-    const QString toolTip = valueCell(model, feature).data(Qt::ToolTipRole).toString();
-    QTEST(toolTip.split(QStringLiteral("<br />")), "lines");
+    const GenParamTreeModel model(map.get());
+    const auto toolTip = [&model](const char* feature) {
+        return valueCell(model, feature).data(Qt::ToolTipRole).toString();
+    };
+    QCOMPARE(
+        toolTip("Width"),
+        QStringLiteral("<i>Name:</i> Width<br /><i>Type:</i> Integer<br /><i>Selectors:</i> Chooser<br />"
+                       "<i>Limits</i>: Min: 16px, Max: 4096px<br /><i>Increment</i>: 4px<br />"
+                       "<i>Description:</i> Columns &lt;b&gt; &amp; more<br />"
+                       "<i>Streamable:</i> True<br /><i>Cachable:</i> WriteThrough"));
+    QCOMPARE(toolTip("Rate"),
+             QStringLiteral("<i>Name:</i> Rate<br /><i>Type:</i> Float<br />"
+                            "<i>Limits</i>: Min: 1.00, Max: 2.00<br /><i>Valid values</i>: 1.00, 1.50<br />"
+                            "<i>Description:</i> short help<br />"
+                            "<i>Streamable:</i> False<br /><i>Cachable:</i> WriteThrough"));
+    QCOMPARE(toolTip("Chooser"),
+             QStringLiteral("<i>Name:</i> Chooser<br /><i>Type:</i> Enumeration<br />"
+                            "<i>Enumeration entries</i>:<br />- One<br />- Two<br />"
+                            "<i>Streamable:</i> False<br /><i>Cachable:</i> WriteAround"));
+    QCOMPARE(toolTip("Gone"), QStringLiteral("<i>Name:</i> Gone<br /><i>Type:</i> Integer<br />"
+                                             "<i>Streamable:</i> False<br /><i>Cachable:</i> NoCache"));
+    QCOMPARE(toolTip("Sub"), QStringLiteral("<i>Name:</i> Sub<br /><i>Description:</i> a group"));
 }
 
 ZETO_TEST_MAIN(TestGenParamTreeModel)
