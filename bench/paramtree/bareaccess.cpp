@@ -1,7 +1,5 @@
 #include "bareaccess.h"
 
-#include <QRegExp>
-
 #include <benchmark/benchmark.h>
 
 namespace {

@@ -2,6 +2,7 @@
 
 #include <GenApi/GenApi.h>
 
+#include <QRegExp>
 #include <QString>
 
 #include <vector>

@@ -46,11 +46,10 @@ public:
     };
     enum Role
     {
-        FeatureRole = Qt::UserRole, ///< the row's GenApi::IValue*, in both columns
-        ControlRole =
-            Qt::UserRole + 1, ///< ControlData with an editor for a writable feature, new at each query
-        ErrorRole,            ///< why the feature is in error; a null text when it is not
-        BusyRole,             ///< of a command: whether the camera still works on it
+        FeatureRole = Qt::UserRole,     ///< the row's GenApi::IValue*, in both columns
+        ControlRole = Qt::UserRole + 1, ///< of a writable feature: ControlData, a new editor at each query
+        ErrorRole,                      ///< why the feature is in error; a null text when it is not
+        BusyRole,                       ///< of a command: whether the camera still works on it
     };
 
     /// A null \a nodeMap, or one without a category "Root", gives an empty tree.

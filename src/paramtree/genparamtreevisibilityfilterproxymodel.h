@@ -21,16 +21,10 @@ class GenParamTreeVisibilityFilterProxyModel : public QSortFilterProxyModel
 public:
     explicit GenParamTreeVisibilityFilterProxyModel(QObject* parent = nullptr);
 
-    /// The pattern with its case sensitivity; it starts as "*", case-insensitive.
-    QRegExp namePattern() const { return m_namePattern; }
-    /// Case-sensitive is what the filter options call "Case Sensitive".
+    /// Case-insensitive unless told otherwise.
     void setNameCaseSensitivity(Qt::CaseSensitivity sensitivity);
-
-    bool isWholeWord() const { return m_wholeWord; }
     /// When set, the pattern must match the whole display name instead of a part of it.
     void setWholeWord(bool wholeWord);
-
-    int filterVisibility() const { return m_visibility; }
 
     void setSourceModel(QAbstractItemModel* model) override;
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;
@@ -40,7 +34,7 @@ public:
 public slots:
     /// The highest GenApi visibility that is shown: 0 beginner, 1 expert, 2 guru.
     void setFilterVisibility(int _visibility);
-    /// Takes \a text as the wildcard pattern as it stands; an empty text shows every name.
+    /// Takes \a text as the wildcard pattern as it stands, "*" at first; an empty text shows every name.
     void setFilterText(const QString& text);
 
 protected:

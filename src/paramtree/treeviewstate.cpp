@@ -5,12 +5,10 @@
 
 namespace {
 
-constexpr char PathEnd[] = "&lt;";
-constexpr char WidthMark[] = "&amp;W";
-constexpr char VisibilityMark[] = "&amp;V";
-constexpr char SplitterMark[] = "&amp;S";
-
-constexpr int PathEndLength = sizeof(PathEnd) - 1;
+constexpr char pathEnd[] = "&lt;";
+constexpr char widthMark[] = "&amp;W";
+constexpr char visibilityMark[] = "&amp;V";
+constexpr char splitterMark[] = "&amp;S";
 
 /// The number at the start of \a text. The messages are the same with every standard library.
 int leadingNumber(const QByteArray& text)
@@ -37,8 +35,8 @@ std::optional<QByteArray> textAfter(const char* mark, const QByteArray& text)
 /// one.
 int endOfPaths(const QByteArray& text)
 {
-    const int last = text.lastIndexOf(PathEnd);
-    return last < 0 ? 0 : last + PathEndLength;
+    const int last = text.lastIndexOf(pathEnd);
+    return last < 0 ? 0 : last + static_cast<int>(qstrlen(pathEnd));
 }
 
 } // namespace
@@ -49,11 +47,11 @@ TreeViewState TreeViewState::fromText(const QByteArray& text)
     const int end = endOfPaths(text);
     state.m_expanded = text.left(end);
     const QByteArray settings = text.mid(end);
-    if (const auto width = textAfter(WidthMark, settings))
+    if (const auto width = textAfter(widthMark, settings))
         state.nameWidth = leadingNumber(*width);
-    if (const auto level = textAfter(VisibilityMark, settings); level && !level->isEmpty())
+    if (const auto level = textAfter(visibilityMark, settings); level && !level->isEmpty())
         state.visibility = leadingNumber(*level);
-    if (const auto splitter = textAfter(SplitterMark, settings))
+    if (const auto splitter = textAfter(splitterMark, settings))
         state.splitter = QByteArray::fromHex(*splitter);
     return state;
 }
@@ -61,23 +59,23 @@ TreeViewState TreeViewState::fromText(const QByteArray& text)
 QByteArray TreeViewState::toText() const
 {
     QByteArray text = m_expanded;
-    text += WidthMark + QByteArray::number(nameWidth);
-    text += VisibilityMark + QByteArray::number(visibility.value_or(0));
-    text += SplitterMark + splitter.toHex();
+    text += widthMark + QByteArray::number(nameWidth);
+    text += visibilityMark + QByteArray::number(visibility.value_or(0));
+    text += splitterMark + splitter.toHex();
     return text;
 }
 
 void TreeViewState::addExpanded(const QString& path)
 {
-    m_expanded += path.toUtf8() + PathEnd;
+    m_expanded += path.toUtf8() + pathEnd;
 }
 
 bool TreeViewState::isExpanded(const QString& path) const
 {
-    const QByteArray entry = path.toUtf8() + PathEnd;
+    const QByteArray entry = path.toUtf8() + pathEnd;
     for (int at = m_expanded.indexOf(entry); at >= 0; at = m_expanded.indexOf(entry, at + 1)) {
         // Within a longer path it is another category: "B" is not "A/B".
-        if (at == 0 || m_expanded.left(at).endsWith(PathEnd))
+        if (at == 0 || m_expanded.left(at).endsWith(pathEnd))
             return true;
     }
     return false;

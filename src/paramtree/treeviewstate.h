@@ -13,9 +13,8 @@
 class TreeViewState
 {
 public:
-    /// \throws std::invalid_argument ("invalid stoi argument") or std::out_of_range ("stoi argument out of
-    /// range")
-    ///         for a width or level that is no number or no 32-bit one.
+    /// Throws std::invalid_argument ("invalid stoi argument") for a width or level that is no number, and
+    /// std::out_of_range ("stoi argument out of range") for one beyond 32 bits.
     static TreeViewState fromText(const QByteArray& text);
     QByteArray toText() const;
 

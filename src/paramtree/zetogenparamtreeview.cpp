@@ -71,8 +71,8 @@ void ZetoGenParamTreeView::loadState(const char* state)
 
 void ZetoGenParamTreeView::setPollingTime(uint64_t milliseconds)
 {
-    constexpr uint64_t Longest = std::numeric_limits<int>::max();
-    d_func()->pollingTimer->setInterval(static_cast<int>(std::min(milliseconds, Longest)));
+    constexpr uint64_t longest = std::numeric_limits<int>::max();
+    d_func()->pollingTimer->setInterval(static_cast<int>(std::min(milliseconds, longest)));
 }
 
 uint64_t ZetoGenParamTreeView::getPollingTime()

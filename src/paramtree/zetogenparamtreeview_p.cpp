@@ -17,7 +17,7 @@ namespace ZetoGui {
 
 namespace {
 
-constexpr int DescriptionLines = 3;
+constexpr int descriptionLines = 3;
 
 Ui::GenParamTreeView formOf(QDialog& dialog)
 {
@@ -88,7 +88,7 @@ void ZetoGenParamTreeViewPrivate::setUpTree()
 {
     ui.treeView->setItemDelegateForColumn(GenParamTreeModel::ValueColumn, delegate);
     ui.splitter->setSizes({1000, 10});
-    ui.whatsThisLabel->setMinimumHeight(DescriptionLines * ui.whatsThisLabel->fontMetrics().lineSpacing());
+    ui.whatsThisLabel->setMinimumHeight(descriptionLines * ui.whatsThisLabel->fontMetrics().lineSpacing());
     QObject::connect(ui.pbExpandAll, &QPushButton::clicked, ui.treeView, &QTreeView::expandAll);
     QObject::connect(ui.pbCollapseAll, &QPushButton::clicked, ui.treeView, &QTreeView::collapseAll);
     QObject::connect(ui.pbCollapseAll, &QPushButton::clicked, &m_expansion, &TreeExpansion::forget);

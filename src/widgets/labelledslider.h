@@ -30,8 +30,6 @@ public:
     /// Tells assistive technology what the slider stands at, the handle left to the user.
     void setReading(const ValueSlider::Reading& reading) { m_slider->setReading(reading); }
 
-    QLabel* labelMin() const { return m_labelMin; }
-    QLabel* labelMax() const { return m_labelMax; }
     ValueSlider* slider() const { return m_slider; }
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -4,7 +4,6 @@
 
 #include <memory>
 
-class QLabel;
 class QSlider;
 class QtZetoDoubleSliderPrivate;
 

@@ -105,8 +105,7 @@ void QtZetoSpinBoxPrivate::setUpPopup()
     slider->setObjectName(QStringLiteral("slider"));
     slider->setWindowFlags(Qt::Popup);
     slider->setAttribute(Qt::WA_WindowPropagation); // font and palette of the dialog
-    slider->setAttribute(
-        Qt::WA_NoMouseReplay); // a click on the button while open shall close, not open again
+    slider->setAttribute(Qt::WA_NoMouseReplay); // a click on the button closes it and does not open it again
     slider->setFrameStyle(int(QFrame::StyledPanel) | int(QFrame::Raised));
     slider->layout()->setContentsMargins(popupMargin, popupMargin, popupMargin, popupMargin);
     QObject::connect(slider, &QtZetoSlider::focusOut, slider, &QWidget::hide);
@@ -217,19 +216,9 @@ void QtZetoSpinBox::setLabelUpper(const QString& text)
     d->giveUpperRowRoom(!text.isEmpty());
 }
 
-bool QtZetoSpinBox::keyboardTracking() const
-{
-    return d->spinBox->keyboardTracking();
-}
-
 void QtZetoSpinBox::setKeyboardTracking(bool track)
 {
     d->spinBox->setKeyboardTracking(track);
-}
-
-bool QtZetoSpinBox::commitsOnRelease() const
-{
-    return d->coupling.waitsForRelease();
 }
 
 void QtZetoSpinBox::setCommitsOnRelease(bool commit)

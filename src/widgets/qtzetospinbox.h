@@ -45,11 +45,9 @@ public:
     /// The label centred above; none while \a text is empty.
     void setLabelUpper(const QString& text);
 
-    bool keyboardTracking() const;
     /// Whether typed text becomes the value with each key rather than by Enter. On unless switched off.
     void setKeyboardTracking(bool track);
 
-    bool commitsOnRelease() const;
     /// Whether a held arrow and a dragged handle tell one value, on release, rather than every value on the
     /// way: for listeners that write to a camera. Off unless switched on. What it does to the arrows stays
     /// done, see QtZetoSpinBoxVal64::setTrackWhileHeld().

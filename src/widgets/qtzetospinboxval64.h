@@ -10,8 +10,7 @@ class QtZetoSpinBoxVal64Private;
 ///
 /// It starts as "0" in the range 0 to 99 with step 1. What sets it apart from QSpinBox:
 /// - A value out of range is ignored, not clamped, and so is a step that would leave the range, unless
-/// wrapping()
-///   leads it to the other end. Changing the range leaves the value alone. No step overflows.
+///   wrapping() leads it to the other end. Changing the range leaves the value alone. No step overflows.
 /// - With snapToStep(), committed values are moved to the grid of minimum() and singleStep().
 /// - With keyboardTracking(), each typed character is committed at once, and a text that is no value in range
 ///   gives way to the current value. Without it, Return and Enter commit; what becomes of a text that is

@@ -27,7 +27,6 @@ public:
 
     /// Whether the spin box takes what the user drags only when the handle is released. It then tells the
     /// final value even if it already held it.
-    bool waitsForRelease() const { return m_waitsForRelease; }
     void setWaitsForRelease(bool wait) { m_waitsForRelease = wait; }
 
     /// What the spin box holds, as far as the slider's type can hold it.
