@@ -2,7 +2,11 @@
 
 #include "nodemapbuilder.h"
 
+#include <QAbstractButton>
+#include <QtTest>
+
 #include <string>
+#include <utility>
 
 using ZetoNodeMap::NodeMap;
 using ZetoNodeMap::NodeMapBuilder;
@@ -41,23 +45,41 @@ std::unique_ptr<NodeMap> makeCamera(int features)
     return b.build();
 }
 
-QModelIndex rowOf(const ZetoGui::ZetoGenParamTreeView& view, const QString& name, int column)
+Browser::Browser(std::unique_ptr<NodeMap> nodeMap)
+    : camera(std::move(nodeMap))
+    , view(camera.get())
 {
-    const QAbstractItemModel& model = *view.treeView()->model();
-    const QModelIndexList found = model.match(model.index(0, 0), Qt::DisplayRole, name, 1,
+    view.show();
+    QVERIFY(QTest::qWaitForWindowActive(&view));
+}
+
+void Browser::click(const char* button)
+{
+    child<QAbstractButton>(button).click();
+}
+
+QModelIndex Browser::row(const char* name, int column) const
+{
+    const QAbstractItemModel& model = *tree().model();
+    const QModelIndexList found = model.match(model.index(0, 0), Qt::DisplayRole, QLatin1String(name), 1,
                                               Qt::MatchExactly | Qt::MatchCaseSensitive | Qt::MatchRecursive);
     return found.isEmpty() ? QModelIndex() : found.first().siblingAtColumn(column);
 }
 
-QString expandedIn(const ZetoGui::ZetoGenParamTreeView& view)
+void Browser::select(const char* name, int column)
 {
-    const QAbstractItemModel& model = *view.treeView()->model();
+    tree().setFocus();
+    tree().setCurrentIndex(row(name, column));
+}
+
+QString Browser::expanded() const
+{
+    const QAbstractItemModel& model = *tree().model();
     const QModelIndexList all = model.match(model.index(0, 0), Qt::DisplayRole, QStringLiteral("*"), -1,
                                             Qt::MatchWildcard | Qt::MatchRecursive);
     QStringList names;
-    for (const QModelIndex& row : all) {
-        if (model.hasChildren(row) && view.treeView()->isExpanded(row))
+    for (const QModelIndex& row : all)
+        if (model.hasChildren(row) && tree().isExpanded(row))
             names.append(row.data().toString());
-    }
     return names.join(QLatin1Char(','));
 }

@@ -8,6 +8,7 @@
 
 #include <atomic>
 #include <thread>
+#include <vector>
 
 using ZetoNodeMap::NodeMap;
 
@@ -19,38 +20,37 @@ std::unique_ptr<NodeMap> camera()
 {
     ZetoNodeMap::NodeMapBuilder b;
     auto root = b.category("Root");
-    for (int i = 0; i < featureCount; ++i) {
-        const std::string name = "F" + std::to_string(i);
-        b.integer(name).in(i % 2 ? "Odd" : "Even");
-    }
+    for (int i = 0; i < featureCount; ++i)
+        b.integer("F" + std::to_string(i)).in(i % 2 ? "Odd" : "Even");
     b.category("Even");
     b.category("Odd");
     root.contains("Even", "Odd", "F0");
     return b.build();
 }
 
-/// Writes features from a thread of its own until it is destroyed.
-class Writer
+/// Writes features from two threads until it is destroyed.
+class Writers
 {
 public:
-    Writer(NodeMap& map, int step)
-        : m_thread([this, &map, step] {
-            for (int i = 0; !m_isStopped; i += step)
-                GenApi::CIntegerPtr(map.GetNode(("F" + std::to_string(i % featureCount)).c_str()))
-                    ->SetValue(i);
-        })
+    explicit Writers(NodeMap& map)
     {
+        for (const int step : {1, 7})
+            m_threads.emplace_back([this, &map, step] {
+                for (int i = 0; !m_isStopped; i += step)
+                    map.assign("F" + std::to_string(i % featureCount), i);
+            });
     }
-    ~Writer()
+    ~Writers()
     {
         m_isStopped = true;
-        m_thread.join();
+        for (std::thread& thread : m_threads)
+            thread.join();
     }
-    Q_DISABLE_COPY(Writer)
+    Q_DISABLE_COPY(Writers)
 
 private:
     std::atomic<bool> m_isStopped{false};
-    std::thread m_thread;
+    std::vector<std::thread> m_threads;
 };
 
 } // namespace
@@ -68,8 +68,7 @@ private slots:
 void TestGenParamTreeThreads::survivesChangesWhileModelsComeAndGo()
 {
     const auto map = camera();
-    const Writer writer(*map, 1);
-    const Writer otherWriter(*map, 7);
+    const Writers writers(*map);
     for (int round = 0; round < 2000; ++round) {
         auto model = std::make_unique<GenParamTreeModel>(map.get());
         GenParamTreeVisibilityFilterProxyModel proxy;
@@ -102,8 +101,7 @@ void TestGenParamTreeThreads::losesNoChange()
     connect(&model, &GenParamTreeModel::dataChanged, this, show);
     for (int round = 0; round < 50; ++round) {
         {
-            const Writer writer(*map, 1);
-            const Writer otherWriter(*map, 3);
+            const Writers writers(*map);
             QTest::qWait(2);
         }
         QCoreApplication::processEvents();

@@ -5,7 +5,6 @@
 #include "treetext.h"
 
 #include <QAbstractItemModelTester>
-#include <QMetaMethod>
 #include <QStandardItemModel>
 #include <QtTest>
 
@@ -28,6 +27,19 @@ std::unique_ptr<ZetoNodeMap::NodeMap> camera()
     return b.build();
 }
 
+/// The filter over a camera's features.
+struct Filtered
+{
+    Filtered() { proxy.setSourceModel(&model); }
+
+    std::unique_ptr<ZetoNodeMap::NodeMap> map = camera();
+    GenParamTreeModel model{map.get()};
+    Proxy proxy;
+    QAbstractItemModelTester tester{&proxy};
+};
+
+const QString atFirst = QStringLiteral("Analog(Gain BlackLevel)");
+
 } // namespace
 
 class TestGenParamTreeVisibilityFilterProxyModel : public QObject
@@ -49,45 +61,22 @@ void TestGenParamTreeVisibilityFilterProxyModel::filters_data()
     QTest::addColumn<QString>("pattern");
     QTest::addColumn<QString>("options");
     QTest::addColumn<QString>("tree");
-    QTest::newRow("at first") << 0 << "*"
-                              << ""
-                              << "Analog(Gain BlackLevel)";
-    QTest::newRow("expert") << 1 << "*"
-                            << ""
-                            << "Analog(Gain GainAuto BlackLevel)";
-    QTest::newRow("guru") << 2 << ""
-                          << ""
-                          << "Analog(Gain GainAuto BlackLevel) Deep(Raw Digital Gain)";
-    QTest::newRow("invisible") << 3 << "Fil"
-                               << ""
-                               << "Analog Deep";
-    QTest::newRow("part of the name") << 2 << "gain"
-                                      << ""
-                                      << "Analog(Gain GainAuto) Deep(Digital Gain)";
-    QTest::newRow("case") << 2 << "gain"
-                          << "case"
-                          << "Analog Deep";
-    QTest::newRow("whole") << 2 << "gain"
-                           << "whole"
-                           << "Analog(Gain) Deep";
-    QTest::newRow("whole, both") << 2 << "gain"
-                                 << "case whole"
-                                 << "Analog Deep";
-    QTest::newRow("beginning") << 2 << "Gain*"
-                               << "whole"
-                               << "Analog(Gain GainAuto) Deep";
-    QTest::newRow("one letter") << 2 << "ra?"
-                                << "whole"
-                                << "Analog Deep(Raw)";
-    QTest::newRow("set of letters") << 2 << "[BR]*"
-                                    << "whole"
-                                    << "Analog(BlackLevel) Deep(Raw)";
-    QTest::newRow("unfinished set") << 2 << "[B"
-                                    << ""
-                                    << "Analog Deep";
-    QTest::newRow("a category's name") << 2 << "Analog"
-                                       << ""
-                                       << "Analog Deep";
+    const auto row = [](int level, const char* pattern, const char* options, const QString& tree) {
+        QTest::addRow("level %d, pattern %s %s", level, pattern, options)
+            << level << pattern << options << tree;
+    };
+    row(0, "*", "", atFirst);
+    row(1, "*", "", "Analog(Gain GainAuto BlackLevel)");
+    row(2, "", "", "Analog(Gain GainAuto BlackLevel) Deep(Raw Digital Gain)");
+    row(3, "Fil", "", "Analog Deep");
+    row(2, "gain", "", "Analog(Gain GainAuto) Deep(Digital Gain)");
+    row(2, "gain", "case", "Analog Deep");
+    row(2, "gain", "whole", "Analog(Gain) Deep");
+    row(2, "gain", "case whole", "Analog Deep");
+    row(2, "Gain*", "whole", "Analog(Gain GainAuto) Deep");
+    row(2, "[BR]*", "whole", "Analog(BlackLevel) Deep(Raw)");
+    row(2, "[B", "", "Analog Deep");
+    row(2, "Analog", "", "Analog Deep");
 }
 
 void TestGenParamTreeVisibilityFilterProxyModel::filters()
@@ -95,13 +84,9 @@ void TestGenParamTreeVisibilityFilterProxyModel::filters()
     QFETCH(const int, level);
     QFETCH(const QString, pattern);
     QFETCH(const QString, options);
-    const auto map = camera();
-    GenParamTreeModel model(map.get());
-    Proxy proxy;
-    const QAbstractItemModelTester tester(&proxy);
-    proxy.setSourceModel(&model);
-    QCOMPARE(treeText(proxy), QStringLiteral("Analog(Gain BlackLevel)"));
-
+    Filtered filtered;
+    Proxy& proxy = filtered.proxy;
+    QCOMPARE(treeText(proxy), atFirst);
     QVERIFY(QMetaObject::invokeMethod(&proxy, "setFilterVisibility", Q_ARG(int, level)));
     QVERIFY(QMetaObject::invokeMethod(&proxy, "setFilterText", Q_ARG(QString, pattern)));
     proxy.setNameCaseSensitivity(options.contains("case") ? Qt::CaseSensitive : Qt::CaseInsensitive);
@@ -123,23 +108,17 @@ void TestGenParamTreeVisibilityFilterProxyModel::showsRowsWithoutAFeature()
 
 void TestGenParamTreeVisibilityFilterProxyModel::followsTheDevice()
 {
-    const auto map = camera();
-    GenParamTreeModel model(map.get());
-    Proxy proxy;
-    const QAbstractItemModelTester tester(&proxy);
-    proxy.setSourceModel(&model);
-    QCOMPARE(treeText(proxy), QStringLiteral("Analog(Gain BlackLevel)"));
-    map->setAccessMode("Fit", GenApi::RW);
-    map->setAccessMode("Gain", GenApi::NI);
-    QCOMPARE(treeText(proxy), QStringLiteral("Analog(BlackLevel Filter)"));
+    const Filtered filtered;
+    QCOMPARE(treeText(filtered.proxy), atFirst);
+    filtered.map->setAccessMode("Fit", GenApi::RW);
+    filtered.map->setAccessMode("Gain", GenApi::NI);
+    QCOMPARE(treeText(filtered.proxy), QStringLiteral("Analog(BlackLevel Filter)"));
 }
 
 void TestGenParamTreeVisibilityFilterProxyModel::keepsPersistentIndexes()
 {
-    const auto map = camera();
-    GenParamTreeModel model(map.get());
-    Proxy proxy;
-    proxy.setSourceModel(&model);
+    Filtered filtered;
+    Proxy& proxy = filtered.proxy;
     const QPersistentModelIndex category = proxy.index(0, 0);
     const QPersistentModelIndex level = valueCell(proxy, "BlackLevel");
     QSignalSpy removals(&proxy, &Proxy::rowsRemoved);
@@ -154,15 +133,13 @@ void TestGenParamTreeVisibilityFilterProxyModel::keepsPersistentIndexes()
 
 void TestGenParamTreeVisibilityFilterProxyModel::showsWhatCannotBeAsked()
 {
-    const auto map = camera();
-    GenParamTreeModel model(map.get());
-    Proxy proxy;
-    map->setAccessHook([](const char* call, const GenApi::INode*) {
+    Filtered filtered;
+    filtered.map->setAccessHook([](const char* call, const GenApi::INode*) {
         if (qstrcmp(call, "GetAccessMode") == 0)
             throw TIMEOUT_EXCEPTION("gone");
     });
-    proxy.setSourceModel(&model);
-    QCOMPARE(treeText(proxy), QStringLiteral("Analog(Gain BlackLevel Filter)"));
+    filtered.proxy.setFilterText("*"); // asks again
+    QCOMPARE(treeText(filtered.proxy), QStringLiteral("Analog(Gain BlackLevel Filter)"));
 }
 
 ZETO_TEST_MAIN(TestGenParamTreeVisibilityFilterProxyModel)
