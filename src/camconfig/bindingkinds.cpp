@@ -253,7 +253,9 @@ void NumberToInt<Widget>::refresh() const
     const IntView view = viewOf(*this->param, converter, limit);
     this->widget->setRange(view.minimum, view.maximum);
     this->widget->setSingleStep(view.singleStep);
-    const int value = static_cast<int>(view.value);
+    // One kind ignores what is beyond its range, where the others show the nearer end.
+    const int value =
+        std::clamp(static_cast<int>(view.value), view.minimum, std::max(view.minimum, view.maximum));
     if (this->widget->value() != value) // leaves text that is being typed alone
         this->widget->setValue(value);
 }

@@ -61,7 +61,7 @@ bool FrameState::isFrameBSelected() const
 
 void FrameState::OnParamChanged(ZetoGenParam::Param* param)
 {
-    if (FrameExcursion::postpones(this, param))
+    if (FrameExcursion::postpones(this, param) || !param->IsReadable())
         return;
     if (param == m_selector)
         readSelector();

@@ -314,6 +314,9 @@ void TestCameraInformation::follows_the_frame_features()
     QVERIFY(!state.takeModeChange());
     camera.map->assign("FrameMode", 1);
     QCOMPARE(state.mode(), FrameState::OnlyFrameB);
+    camera.map->setAccessMode("FrameMode", GenApi::NA);
+    QCOMPARE(state.mode(), FrameState::OnlyFrameB);
+    camera.map->setAccessMode("FrameMode", GenApi::RW);
     camera.map->assign("FrameMode", 2);
     QCOMPARE(state.mode(), FrameState::BothFrames);
     QVERIFY(state.takeModeChange());

@@ -355,6 +355,8 @@ void TestZetoCamConfigMapper::shows_limits_that_move_without_writing()
     QCOMPARE(takeWrites(), QStringList());
     features().assign("Level", int64_t(44));
     QCOMPARE(kind().shown(widget), QStringLiteral("44"));
+    features().assign("Level", int64_t(60)); // beyond its own limit
+    QVERIFY(kind().shown(widget) != QStringLiteral("44"));
     QCOMPARE(takeWrites(), QStringList());
 }
 
