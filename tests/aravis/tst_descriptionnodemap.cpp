@@ -82,7 +82,6 @@ class TestDescriptionNodeMap : public QObject
 private slots:
     void accessModes_data();
     void accessModes();
-    void limits_data();
     void limits();
     void values_data();
     void values();
@@ -91,15 +90,12 @@ private slots:
     void reports_data();
     void reports();
     void failingReads();
-    void lengthsThatNoRegisterHas_data();
     void lengthsThatNoRegisterHas();
     void entries();
     void commands();
-    void polling();
-    void caching();
+    void pollingAndCaching();
     void whatNodesSayAboutThemselves();
     void initialMemory();
-    void openingFails_data();
     void openingFails();
     void manyThreads();
 };
@@ -147,45 +143,43 @@ void TestDescriptionNodeMap::accessModes()
     QCOMPARE(found.join(' '), expected);
 }
 
-void TestDescriptionNodeMap::limits_data()
-{
-    textColumns({"expected"});
-    row("Unsigned1", "0 255 1");
-    row("Signed1", "-128 127 1");
-    row("Unsigned2", "0 65535 1");
-    row("Signed4", "-2147483648 2147483647 1");
-    row("Unsigned8", "0 9223372036854775807 1");
-    row("Signed8", "-9223372036854775808 9223372036854775807 1");
-    row("Field4", "0 15 1");
-    row("SignedField4", "-8 7 1");
-    row("SignedField48", "-140737488355328 140737488355327 1");
-    row("Field64", "0 9223372036854775807 1");
-    row("FieldBit", "0 1 1");
-    row("StructLow", "0 7 1");
-    row("StructFlag", "0 1 1");
-    row("Knife", "-9223372036854775808 9223372036854775807 1");
-    row("Unlimited", "-9223372036854775808 9223372036854775807 1");
-    row("Literal", "-4 20 4");
-    row("Inherited", "-4 20 4");
-    row("Narrowed", "-4 12 4");
-    row("Computed", "0 100 5");
-    row("OverBoolean", "0 1 1");
-    row("OverFloat", "-2 1000 1");
-    row("Doubled", "-8 40 1");
-    row("LimitedFloat", "-1.5 1000 0.5");
-    row("InheritedFloat", "-1.5 1000 0.5");
-    row("OverInteger", "-4 20 4");
-    row("UnlimitedFloat", "-1.7976931348623157e+308 1.7976931348623157e+308 -");
-    row("Single", "-3.4028234663852886e+38 3.4028234663852886e+38 -");
-    row("Double", "-1.7976931348623157e+308 1.7976931348623157e+308 -");
-    row("RealKnife", "-1.7976931348623157e+308 1.7976931348623157e+308 -");
-    row("Reciprocal", "2 100 -");
-}
-
 void TestDescriptionNodeMap::limits()
 {
+    const std::pair<const char*, const char*> expected[] = {
+        {"Unsigned1", "0 255 1"},
+        {"Signed1", "-128 127 1"},
+        {"Unsigned2", "0 65535 1"},
+        {"Signed4", "-2147483648 2147483647 1"},
+        {"Unsigned8", "0 9223372036854775807 1"},
+        {"Signed8", "-9223372036854775808 9223372036854775807 1"},
+        {"Field4", "0 15 1"},
+        {"SignedField4", "-8 7 1"},
+        {"SignedField48", "-140737488355328 140737488355327 1"},
+        {"Field64", "0 9223372036854775807 1"},
+        {"FieldBit", "0 1 1"},
+        {"StructLow", "0 7 1"},
+        {"StructFlag", "0 1 1"},
+        {"Knife", "-9223372036854775808 9223372036854775807 1"},
+        {"Unlimited", "-9223372036854775808 9223372036854775807 1"},
+        {"Literal", "-4 20 4"},
+        {"Inherited", "-4 20 4"},
+        {"Narrowed", "-4 12 4"},
+        {"Computed", "0 100 5"},
+        {"OverBoolean", "0 1 1"},
+        {"OverFloat", "-2 1000 1"},
+        {"Doubled", "-8 40 1"},
+        {"LimitedFloat", "-1.5 1000 0.5"},
+        {"InheritedFloat", "-1.5 1000 0.5"},
+        {"OverInteger", "-4 20 4"},
+        {"UnlimitedFloat", "-1.7976931348623157e+308 1.7976931348623157e+308 -"},
+        {"Single", "-3.4028234663852886e+38 3.4028234663852886e+38 -"},
+        {"Double", "-1.7976931348623157e+308 1.7976931348623157e+308 -"},
+        {"RealKnife", "-1.7976931348623157e+308 1.7976931348623157e+308 -"},
+        {"Reciprocal", "2 100 -"},
+    };
     const CameraPointer camera = openCorners();
-    QTEST(QByteArray::fromStdString(limitsOf(nodeOf(camera, QTest::currentDataTag()))), "expected");
+    for (const auto& [feature, limits] : expected)
+        QCOMPARE(feature + (' ' + limitsOf(nodeOf(camera, feature))), feature + (' ' + std::string(limits)));
 }
 
 void TestDescriptionNodeMap::values_data()
@@ -308,24 +302,19 @@ void TestDescriptionNodeMap::failingReads()
     QVERIFY(!CEnumerationPtr(&nodeOf(camera, "NoEntry"))->GetCurrentEntry());
 }
 
-void TestDescriptionNodeMap::lengthsThatNoRegisterHas_data()
-{
-    textColumns({"length"});
-    for (const char* length : {"-4", "0", "0x7FFFFFFFFFFFFFFF"})
-        row(length, length);
-}
-
 /// The camera tells the length, and the library takes what memory it asks for.
 void TestDescriptionNodeMap::lengthsThatNoRegisterHas()
 {
-    QFETCH(QByteArray, length);
-    for (const QByteArray kind : {"IntReg", "FloatReg", "StringReg", "Register"}) {
-        const QByteArray xml = "<RegisterDescription><Port Name='P'/><Integer Name='L'><Value>" + length +
-                               "</Value></Integer><" + kind + " Name='R'><Address>0</Address>" +
-                               "<pLength>L</pLength><pPort>P</pPort></" + kind + "></RegisterDescription>";
-        const CameraPointer camera = DescriptionNodeMap::fromXml(xml.toStdString());
-        exceptionName([&] { read(camera, "R"); });
-        QCOMPARE(modeOf(nodeOf(camera, "R")), std::string("RO"));
+    for (const QByteArray length : {"-4", "0", "0x7FFFFFFFFFFFFFFF"}) {
+        for (const QByteArray kind : {"IntReg", "FloatReg", "StringReg", "Register"}) {
+            const QByteArray xml = "<RegisterDescription><Port Name='P'/><Integer Name='L'><Value>" + length +
+                                   "</Value></Integer><" + kind + " Name='R'><Address>0</Address>" +
+                                   "<pLength>L</pLength><pPort>P</pPort></" + kind +
+                                   "></RegisterDescription>";
+            const CameraPointer camera = DescriptionNodeMap::fromXml(xml.toStdString());
+            exceptionName([&] { read(camera, "R"); });
+            QCOMPARE(modeOf(nodeOf(camera, "R")), std::string("RO"));
+        }
     }
 }
 
@@ -366,7 +355,7 @@ void TestDescriptionNodeMap::commands()
              QStringLiteral("Access"));
 }
 
-void TestDescriptionNodeMap::polling()
+void TestDescriptionNodeMap::pollingAndCaching()
 {
     const CameraPointer camera = openCorners();
     ReportRecorder recorder(featuresOf(camera->nodeMap()));
@@ -374,15 +363,10 @@ void TestDescriptionNodeMap::polling()
     QCOMPARE(joined(recorder.take()), QByteArray());
     camera->nodeMap().Poll(300);
     QCOMPARE(joined(recorder.take()), QByteArray("OverPolled"));
-}
 
-void TestDescriptionNodeMap::caching()
-{
-    const CameraPointer camera = openCorners();
-    const auto mode = [&](const char* name) { return nodeOf(camera, name).GetCachingMode(); };
-    QCOMPARE(mode("OverUncached"), NoCache);
-    QCOMPARE(mode("OverRW"), WriteThrough);
-    QCOMPARE(mode("Single"), WriteAround);
+    QCOMPARE(nodeOf(camera, "OverUncached").GetCachingMode(), NoCache);
+    QCOMPARE(nodeOf(camera, "OverRW").GetCachingMode(), WriteThrough);
+    QCOMPARE(nodeOf(camera, "Single").GetCachingMode(), WriteAround);
     QCOMPARE(nodeOf(camera, "OverUncached").IsAccessModeCacheable(), Yes);
     QCOMPARE(nodeOf(camera, "IfUncached").IsAccessModeCacheable(), No);
 }
@@ -411,29 +395,32 @@ void TestDescriptionNodeMap::whatNodesSayAboutThemselves()
     QCOMPARE(digest(bare), QByteArray("||Undocumented|Beginner|||Custom|||"));
     QCOMPARE(CIntegerPtr(&nodeOf(camera, "Hex"))->GetUnit().c_str(), "px");
     QCOMPARE(CRegisterPtr(&nodeOf(camera, "Bytes"))->GetAddress(), std::int64_t(0x730));
+    QCOMPARE(CIntegerPtr(&nodeOf(camera, "ValidSet"))->GetListOfValidValues()[2], std::int64_t(4));
 }
 
 void TestDescriptionNodeMap::initialMemory()
 {
-    const QByteArray xml =
-        "<RegisterDescription ModelName='Model X'>"
-        "<Category Name='Root'><pFeature>F</pFeature><pFeature>DeviceModelName</pFeature>"
-        "<pFeature>E</pFeature></Category><Port Name='Device'/>"
-        "<Integer Name='F'><pIsImplemented>Asked</pIsImplemented><pValue>R</pValue>"
-        "<Min>8</Min><pMax>Most</pMax><pInc>Step</pInc></Integer>"
-        "<IntSwissKnife Name='Asked'><pVariable Name='X'>Inquiry</pVariable>"
-        "<Formula>(X &gt;&gt; 31) &amp; 1</Formula></IntSwissKnife>"
-        "<IntReg Name='Inquiry'><Address>0</Address><Length>4</Length><pPort>Device</pPort></IntReg>"
-        "<IntReg Name='Most'><Address>4</Address><Length>4</Length><pPort>Device</pPort></IntReg>"
-        "<IntReg Name='Step'><Address>8</Address><Length>4</Length><pPort>Device</pPort></IntReg>"
-        "<IntReg Name='R'><Address>12</Address><Length>4</Length><AccessMode>RW</AccessMode>"
-        "<pPort>Device</pPort></IntReg>"
-        "<StringReg Name='DeviceModelName'><Address>16</Address><Length>16</Length>"
-        "<pPort>Device</pPort></StringReg>"
-        "<Enumeration Name='E'><EnumEntry Name='Three'><Value>3</Value></EnumEntry>"
-        "<pValue>R2</pValue></Enumeration>"
-        "<IntReg Name='R2'><Address>32</Address><Length>4</Length><AccessMode>RW</AccessMode>"
-        "<pPort>Device</pPort></IntReg></RegisterDescription>";
+    const auto cell = [](const char* name, int address, const char* mode) {
+        return QStringLiteral("<IntReg Name='%1'><Address>%2</Address><Length>4</Length>"
+                              "<AccessMode>%3</AccessMode><pPort>Device</pPort></IntReg>")
+            .arg(QLatin1String(name))
+            .arg(address)
+            .arg(QLatin1String(mode));
+    };
+    const QString xml =
+        QStringLiteral("<RegisterDescription ModelName='Model X'>"
+                       "<Category Name='Root'><pFeature>F</pFeature><pFeature>DeviceModelName</pFeature>"
+                       "<pFeature>E</pFeature></Category><Port Name='Device'/>"
+                       "<Integer Name='F'><pIsImplemented>Asked</pIsImplemented><pValue>R</pValue>"
+                       "<Min>8</Min><pMax>Most</pMax><pInc>Step</pInc></Integer>"
+                       "<IntSwissKnife Name='Asked'><pVariable Name='X'>Inquiry</pVariable>"
+                       "<Formula>(X &gt;&gt; 31) &amp; 1</Formula></IntSwissKnife>"
+                       "<StringReg Name='DeviceModelName'><Address>16</Address><Length>16</Length>"
+                       "<pPort>Device</pPort></StringReg>"
+                       "<Enumeration Name='E'><EnumEntry Name='Three'><Value>3</Value></EnumEntry>"
+                       "<pValue>R2</pValue></Enumeration>") +
+        cell("Inquiry", 0, "RO") + cell("Most", 4, "RO") + cell("Step", 8, "RO") + cell("R", 12, "RW") +
+        cell("R2", 32, "RW") + QStringLiteral("</RegisterDescription>");
     const CameraPointer zero =
         DescriptionNodeMap::fromXml(xml.toStdString(), DescriptionNodeMap::InitialMemory::Zero);
     QCOMPARE(stateOf(nodeOf(zero, "F")).substr(0, 2), std::string("NI"));
@@ -443,24 +430,20 @@ void TestDescriptionNodeMap::initialMemory()
     QCOMPARE(read(sensible, "E"), QByteArray("Three"));
 }
 
-void TestDescriptionNodeMap::openingFails_data()
-{
-    textColumns({"path", "reason"});
-    row("no such file", "no/such/file.xml", "No such file");
-    row("a directory", ".", "directory");
-    row("this program", QFile::encodeName(QCoreApplication::applicationFilePath()), "line 1");
-}
-
 void TestDescriptionNodeMap::openingFails()
 {
-    QFETCH(QByteArray, path);
-    QFETCH(QByteArray, reason);
-    try {
-        DescriptionNodeMap::open(path.toStdString());
-        QFAIL("was opened");
-    } catch (const std::runtime_error& error) {
-        const QByteArray text(error.what());
-        QVERIFY2(text.startsWith(path + ": ") && text.contains(reason), error.what());
+    const std::pair<QByteArray, const char*> expected[] = {
+        {"no/such/file.xml", "No such file"},
+        {".", "directory"},
+        {QFile::encodeName(QCoreApplication::applicationFilePath()), "line 1"}};
+    for (const auto& [path, reason] : expected) {
+        try {
+            DescriptionNodeMap::open(path.toStdString());
+            QFAIL("was opened");
+        } catch (const std::runtime_error& error) {
+            const QByteArray text(error.what());
+            QVERIFY2(text.startsWith(path + ": ") && text.contains(reason), error.what());
+        }
     }
     QVERIFY_EXCEPTION_THROWN(DescriptionNodeMap::fromXml("PK\x03\x04"), std::runtime_error);
 }

@@ -48,9 +48,7 @@ class TestGvcp : public QObject
 private slots:
     void writes_commands();
     void reads_discovery_answers();
-    void passes_over_other_datagrams_data();
     void passes_over_other_datagrams();
-    void reads_register_answers_data();
     void reads_register_answers();
 };
 
@@ -81,47 +79,34 @@ void TestGvcp::reads_discovery_answers()
     QCOMPARE(answer->userName, std::string("Ger\xC3\xA4t"));
 }
 
-void TestGvcp::passes_over_other_datagrams_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    const QByteArray good = discoveryBytes();
-    QTest::newRow("empty") << QByteArray();
-    QTest::newRow("header only") << good.left(8);
-    QTest::newRow("short") << good.left(good.size() - 1);
-    QTest::newRow("short and says so") << QByteArray(good.left(20)).replace(4, 2, QByteArray("\0\x0c", 2));
-    QTest::newRow("another id") << QByteArray(good).replace(6, 2, "\1\7");
-    QTest::newRow("another command") << QByteArray(good).replace(2, 2, QByteArray("\0\x81", 2));
-    QTest::newRow("an error") << QByteArray(good).replace(0, 2, "\x80\6");
-}
-
 void TestGvcp::passes_over_other_datagrams()
 {
-    QFETCH(QByteArray, bytes);
-    QVERIFY(!Gvcp::discoveryAnswer(fromBytes(bytes), 7));
-}
-
-void TestGvcp::reads_register_answers_data()
-{
-    QTest::addColumn<QByteArray>("hex");
-    QTest::addColumn<bool>("isAnswer");
-    QTest::addColumn<int>("status");
-    QTest::addColumn<quint32>("value");
-    QTest::newRow("value") << QByteArray("000000810004000900000002") << true << 0 << 2u;
-    QTest::newRow("refused") << QByteArray("8006008100000009") << true << 0x8006 << 0u;
-    QTest::newRow("refused with a value") << QByteArray("800600810004000900000000") << true << 0x8006 << 0u;
-    QTest::newRow("no value") << QByteArray("0000008100000009") << false << 0 << 0u;
-    QTest::newRow("another id") << QByteArray("000000810004000800000002") << false << 0 << 0u;
+    const QByteArray good = discoveryBytes();
+    const QByteArray others[] = {
+        {},
+        good.left(8), // the header only
+        good.left(good.size() - 1),
+        QByteArray(good.left(20)).replace(4, 2, QByteArray("\0\x0c", 2)), // short, and says so
+        QByteArray(good).replace(6, 2, "\1\7"),                           // another id
+        QByteArray(good).replace(2, 2, QByteArray("\0\x81", 2)),          // another command
+        QByteArray(good).replace(0, 2, "\x80\6"),                         // an error
+    };
+    for (const QByteArray& bytes : others)
+        QVERIFY2(!Gvcp::discoveryAnswer(fromBytes(bytes), 7), bytes.toHex().constData());
 }
 
 void TestGvcp::reads_register_answers()
 {
-    QFETCH(QByteArray, hex);
-    const auto answer = Gvcp::registerAnswer(fromBytes(QByteArray::fromHex(hex)), 9);
-    QTEST(answer.has_value(), "isAnswer");
-    if (answer) {
-        QTEST(int(answer->status), "status");
-        QTEST(quint32(answer->value), "value");
-    }
+    const auto read = [](const QByteArray& hex) -> QByteArray {
+        const auto answer = Gvcp::registerAnswer(fromBytes(QByteArray::fromHex(hex)), 9);
+        return answer ? QByteArray::number(answer->status, 16) + ' ' + QByteArray::number(answer->value)
+                      : QByteArray("none");
+    };
+    QCOMPARE(read("000000810004000900000002"), QByteArray("0 2"));
+    QCOMPARE(read("8006008100000009"), QByteArray("8006 0"));
+    QCOMPARE(read("800600810004000900000000"), QByteArray("8006 0"));
+    QCOMPARE(read("0000008100000009"), QByteArray("none"));         // no value
+    QCOMPARE(read("000000810004000800000002"), QByteArray("none")); // another id
 }
 
 ZETO_TEST_MAIN(TestGvcp)

@@ -138,7 +138,6 @@ private slots:
     void locksAreRecursive();
     void exceptionTellsWhatAndWhere();
     void reporterTakesAllForms();
-    void integralCastRefusesWhatDoesNotFit();
     void modesAndLevelsCombine();
     void helpersAskTheNode();
     void enumerationsConvertToText();
@@ -203,16 +202,14 @@ void TestGenApi::textComparesAndConcatenates()
 
 void TestGenApi::textGoesThroughStreams()
 {
-    std::istringstream in("first line\nword rest;end");
-    gcstring line;
+    std::istringstream in("word rest;end");
     gcstring word;
     gcstring rest;
-    GenICam::getline(in, line);
     in >> word;
     GenICam::getline(in, rest, ';');
     std::ostringstream out;
-    out << line << '|' << word << '|' << rest;
-    QCOMPARE(out.str(), std::string("first line|word| rest"));
+    out << word << '|' << rest;
+    QCOMPARE(out.str(), std::string("word| rest"));
 }
 
 void TestGenApi::stringVectorEdits()
@@ -314,14 +311,10 @@ void TestGenApi::reporterTakesAllForms()
     QCOMPARE(PROPERTY_EXCEPTION(stream).GetDescription(), "stream 1");
     const QByteArray cut = RUNTIME_EXCEPTION(std::string(5000, 'x')).GetDescription();
     QVERIFY(cut.size() >= 255 && cut.size() < 5000);
-}
-
-void TestGenApi::integralCastRefusesWhatDoesNotFit()
-{
     QCOMPARE(GenICam::INTEGRAL_CAST<int32_t>(int64_t(GC_INT32_MIN)), GC_INT32_MIN);
     for (const int64_t value : {int64_t(GC_INT32_MAX) + 1, int64_t(GC_INT32_MIN) - 1})
-        QVERIFY(!exceptionName([&] { (void)GenICam::INTEGRAL_CAST<int32_t>(value); }).isEmpty());
-    QVERIFY(!exceptionName([] { (void)GenICam::INTEGRAL_CAST<uint64_t>(int64_t(-1)); }).isEmpty());
+        QCOMPARE(exceptionName([&] { (void)GenICam::INTEGRAL_CAST<int32_t>(value); }),
+                 QStringLiteral("Runtime"));
 }
 
 void TestGenApi::modesAndLevelsCombine()

@@ -213,11 +213,6 @@ void TestNodeValues::any_call_can_be_made_to_fail()
             QCOMPARE(faults->callCount(), call + 1);
         }
     }
-    faults->setFilter([](const char* call, const GenApi::INode*) { return QByteArray(call) == "ToString"; });
-    faults->throwRandomly(0.5, 1);
-    for (int round = 0; round < 100; ++round)
-        exceptionName([&] { visit(*map); });
-    QVERIFY(faults->faultCount() > faults->callCount() / 3);
     map->setAccessHook(nullptr);
     visit(*map);
     QVERIFY(map->GetLock().TryLock()); // no failure left the lock behind

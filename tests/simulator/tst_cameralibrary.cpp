@@ -17,37 +17,30 @@ class TestCameraLibrary : public QObject
     Q_OBJECT
 
 private slots:
-    void reads_settings_data();
     void reads_settings();
     void prefers_the_environment();
-    void opens_the_chosen_cameras_data();
     void opens_the_chosen_cameras();
     void opens_a_camera_through_its_functions();
 };
 
-void TestCameraLibrary::reads_settings_data()
-{
-    QTest::addColumn<QByteArray>("file");
-    QTest::addColumn<QByteArray>("words");
-    QTest::addColumn<int>("number");
-    QTest::newRow("both") << QByteArray("cameras = a, b\nsimulator.demo=30") << QByteArray("a|b") << 30;
-    QTest::newRow("blanks") << QByteArray(" \tcameras =  a   b \r\n simulator.demo = 5\r")
-                            << QByteArray("a|b") << 5;
-    QTest::newRow("comments") << QByteArray("[x]\n#cameras=c\n;simulator.demo=1\n\nnonsense\n=\n")
-                              << QByteArray() << 0;
-    QTest::newRow("no number") << QByteArray("simulator.demo=fast") << QByteArray() << 0;
-}
-
 void TestCameraLibrary::reads_settings()
 {
-    QFETCH(QByteArray, file);
-    std::istringstream stream(file.toStdString());
-    const Settings settings(stream);
-    QByteArrayList words;
-    for (const std::string& word : settings.list("cameras"))
-        words += QByteArray::fromStdString(word);
-    QTEST(words.join('|'), "words");
-    QTEST(settings.number("simulator.demo"), "number");
+    struct File
+    {
+        const char* contents;
+        std::vector<std::string> words;
+        int number;
+    };
+    const File files[] = {{"cameras = a, b\nsimulator.demo=30", {"a", "b"}, 30},
+                          {" \tcameras =  a   b \r\n simulator.demo = 5\r", {"a", "b"}, 5},
+                          {"[x]\n#cameras=c\n;simulator.demo=1\n\nnonsense\n=\n", {}, 0},
+                          {"simulator.demo=fast", {}, 0}};
+    for (const File& file : files) {
+        std::istringstream stream(file.contents);
+        const Settings settings(stream);
+        QCOMPARE(settings.list("cameras"), file.words);
+        QCOMPARE(settings.number("simulator.demo"), file.number);
+    }
 }
 
 void TestCameraLibrary::prefers_the_environment()
@@ -63,27 +56,19 @@ void TestCameraLibrary::prefers_the_environment()
     QCOMPARE(Settings::ofProcess().number("simulator.demo"), 8);
 }
 
-void TestCameraLibrary::opens_the_chosen_cameras_data()
-{
-    QTest::addColumn<QByteArray>("chosen");
-    QTest::addColumn<bool>("hasSimulator");
-    QTest::newRow("by default") << QByteArray() << true;
-    QTest::newRow("by name") << QByteArray("simulator") << true;
-    QTest::newRow("all") << QByteArray("all") << true;
-    QTest::newRow("unknown") << QByteArray("no such library") << false;
-}
-
 void TestCameraLibrary::opens_the_chosen_cameras()
 {
-    QFETCH(QByteArray, chosen);
-    QFETCH(bool, hasSimulator);
-    const ScopedEnvironment cameras("ZETO_CAMERAS", chosen);
-    ZetoCam::System* system = ZetoCam_GetSystem();
-    QCOMPARE(system != nullptr, hasSimulator);
-    QCOMPARE(ZetoSimulator_GetControl() != nullptr, hasSimulator);
-    if (system) {
-        QCOMPARE(ZetoCam_GetSystem(), system);
-        QCOMPARE(system->Close(), 0);
+    const QByteArray unknown = "no such library";
+    for (const QByteArray& chosen : {QByteArray(), QByteArray("simulator"), QByteArray("all"), unknown}) {
+        const bool hasSimulator = chosen != unknown;
+        const ScopedEnvironment cameras("ZETO_CAMERAS", chosen);
+        ZetoCam::System* system = ZetoCam_GetSystem();
+        QCOMPARE(system != nullptr, hasSimulator);
+        QCOMPARE(ZetoSimulator_GetControl() != nullptr, hasSimulator);
+        if (system) {
+            QCOMPARE(ZetoCam_GetSystem(), system);
+            QCOMPARE(system->Close(), 0);
+        }
     }
 }
 
