@@ -3,6 +3,7 @@
 #include "featurestate.h"
 #include "reportrecorder.h"
 #include "testmain.h"
+#include "writefeatures.h"
 
 #include <GenApi/EnumClasses.h>
 
@@ -31,32 +32,18 @@ INode& nodeOf(const CameraPointer& camera, const QByteArray& name)
     return *node;
 }
 
-void write(const CameraPointer& camera, const QByteArray& name, const QByteArray& value)
-{
-    CValuePtr(&nodeOf(camera, name))->FromString(value.constData());
-}
-
 QByteArray read(const CameraPointer& camera, const QByteArray& name)
 {
     return CValuePtr(&nodeOf(camera, name))->ToString().c_str();
 }
 
-/// "A=1 B=2": writes these values in turn.
-void prepare(const CameraPointer& camera, const QByteArray& assignments)
+/// What was reported, each once and in the order of the alphabet.
+QByteArray reportedTo(ReportRecorder& recorder)
 {
-    for (const QByteArray& assignment : assignments.simplified().split(' ')) {
-        const int sign = assignment.indexOf('=');
-        if (sign > 0)
-            write(camera, assignment.left(sign), assignment.mid(sign + 1));
-    }
-}
-
-QByteArray joined(const std::set<std::string>& names)
-{
-    QByteArrayList list;
-    for (const std::string& name : names)
-        list << QByteArray::fromStdString(name);
-    return list.join(' ');
+    QStringList names = recorder.take();
+    names.sort();
+    names.removeDuplicates();
+    return names.join(QLatin1Char(' ')).toLatin1();
 }
 
 /// Adds a row of texts to a table with as many columns of type QByteArray.
@@ -134,7 +121,7 @@ void TestDescriptionNodeMap::accessModes()
     QFETCH(QByteArray, settings);
     QFETCH(QByteArray, expected);
     const CameraPointer camera = openCorners();
-    prepare(camera, settings);
+    writeFeatures(camera->nodeMap(), settings);
     QByteArrayList found;
     for (const QByteArray& each : expected.split(' ')) {
         const QByteArray name = each.left(each.indexOf('='));
@@ -215,7 +202,7 @@ void TestDescriptionNodeMap::values()
     QFETCH(QByteArray, settings);
     QFETCH(QByteArray, feature);
     const CameraPointer camera = openCorners();
-    prepare(camera, settings);
+    writeFeatures(camera->nodeMap(), settings);
     QTEST(read(camera, feature), "text");
 }
 
@@ -250,10 +237,11 @@ void TestDescriptionNodeMap::refusedWrites()
     QFETCH(QByteArray, feature);
     QFETCH(QByteArray, value);
     const CameraPointer camera = openCorners();
-    prepare(camera, settings);
+    writeFeatures(camera->nodeMap(), settings);
     camera->nodeMap().InvalidateNodes();
     const std::string before = stateOf(nodeOf(camera, feature));
-    const QByteArray exception = exceptionName([&] { write(camera, feature, value); }).toLatin1();
+    const QByteArray exception =
+        exceptionName([&] { writeFeatures(camera->nodeMap(), feature + '=' + value); }).toLatin1();
     QTEST(exception, "exception");
     QCOMPARE(stateOf(nodeOf(camera, feature)) == before, !exception.isEmpty());
 }
@@ -289,8 +277,8 @@ void TestDescriptionNodeMap::reports()
     QFETCH(QByteArray, value);
     const CameraPointer camera = openCorners();
     ReportRecorder recorder(featuresOf(camera->nodeMap()));
-    write(camera, QTest::currentDataTag(), value);
-    QTEST(joined(recorder.take()), "reported");
+    writeFeatures(camera->nodeMap(), QTest::currentDataTag() + ('=' + value));
+    QTEST(reportedTo(recorder), "reported");
 }
 
 void TestDescriptionNodeMap::failingReads()
@@ -321,7 +309,7 @@ void TestDescriptionNodeMap::lengthsThatNoRegisterHas()
 void TestDescriptionNodeMap::entries()
 {
     const CameraPointer camera = openCorners();
-    prepare(camera, "AvailableSwitch=0 ImplementedSwitch=0");
+    writeFeatures(camera->nodeMap(), "AvailableSwitch=0 ImplementedSwitch=0");
     NodeList_t list;
     CEnumerationPtr(&nodeOf(camera, "Choice"))->GetEntries(list);
     QByteArrayList found;
@@ -342,7 +330,7 @@ void TestDescriptionNodeMap::commands()
     const CameraPointer camera = openCorners();
     ReportRecorder recorder(featuresOf(camera->nodeMap()));
     CCommandPtr(&nodeOf(camera, "Reset"))->Execute();
-    QCOMPARE(joined(recorder.take()), QByteArray("Invalidated Reset"));
+    QCOMPARE(reportedTo(recorder), QByteArray("Invalidated Reset"));
     for (const char* name : {"CommandRW", "CommandWO", "Reset"}) {
         const CCommandPtr command(&nodeOf(camera, name));
         command->Execute();
@@ -360,9 +348,9 @@ void TestDescriptionNodeMap::pollingAndCaching()
     const CameraPointer camera = openCorners();
     ReportRecorder recorder(featuresOf(camera->nodeMap()));
     camera->nodeMap().Poll(300);
-    QCOMPARE(joined(recorder.take()), QByteArray());
+    QCOMPARE(reportedTo(recorder), QByteArray());
     camera->nodeMap().Poll(300);
-    QCOMPARE(joined(recorder.take()), QByteArray("OverPolled"));
+    QCOMPARE(reportedTo(recorder), QByteArray("OverPolled"));
 
     QCOMPARE(nodeOf(camera, "OverUncached").GetCachingMode(), NoCache);
     QCOMPARE(nodeOf(camera, "OverRW").GetCachingMode(), WriteThrough);

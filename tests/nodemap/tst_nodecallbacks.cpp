@@ -1,5 +1,6 @@
 #include "exceptionname.h"
 #include "nodemapbuilder.h"
+#include "reportrecorder.h"
 
 #include "testmain.h"
 
@@ -73,19 +74,11 @@ private:
 /// The names of the nodes whose callbacks \a action fires: "A B".
 static QString firedBy(NodeMap& map, const Action& action)
 {
-    QStringList fired;
-    std::vector<std::pair<GenApi::INode*, GenApi::CallbackHandleType>> handles;
     GenApi::NodeList_t nodes;
     map.GetNodes(nodes);
-    const std::function<void(GenApi::INode*)> note = [&](GenApi::INode* node) {
-        fired += QString::fromLatin1(node->GetName().c_str());
-    };
-    for (GenApi::INode* node : nodes)
-        handles.emplace_back(node, GenApi::Register(node, note, GenApi::cbPostOutsideLock));
+    ReportRecorder recorder(nodes);
     exceptionName([&] { action(map); });
-    for (const auto& [node, handle] : handles)
-        node->DeregisterCallback(handle);
-    return fired.join(QLatin1Char(' '));
+    return recorder.take().join(QLatin1Char(' '));
 }
 
 static GenApi::CIntegerPtr integer(NodeMap& map, const char* name)

@@ -2,6 +2,7 @@
 #include "simulatorfixture.h"
 
 #include "testmain.h"
+#include "writefeatures.h"
 
 #include <GenICam.h>
 
@@ -122,13 +123,7 @@ void TestCameraFeatures::follows_its_settings()
 {
     QFETCH(QString, settings);
     QFETCH(QString, expected);
-    for (const QString& setting : settings.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
-        if (setting.endsWith(QLatin1Char('!')))
-            GenApi::CCommandPtr(node(setting.chopped(1)))->Execute();
-        else
-            GenApi::CValuePtr(node(setting.section(QLatin1Char('='), 0, 0)))
-                ->FromString(setting.section(QLatin1Char('='), 1).toLatin1().constData());
-    }
+    writeFeatures(*m_map, settings.toLatin1());
     for (const QString& each : expected.split(QLatin1Char(' '))) {
         const QString left = each.section(QLatin1Char('='), 0, 0);
         QCOMPARE(left + QLatin1Char('=') + seen(left), each);
