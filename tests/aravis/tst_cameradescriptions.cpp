@@ -1,6 +1,8 @@
+#include <arv.h>
+
 #include "descriptionnodemap.h"
-#include "fakecamera.h"
 #include "featurestate.h"
+#include "gobjectpointer.h"
 #include "reportrecorder.h"
 #include "testmain.h"
 
@@ -28,6 +30,15 @@ States freshStatesOf(const DescriptionNodeMap& camera, const std::vector<INode*>
 {
     camera.nodeMap().InvalidateNodes();
     return statesOf(features);
+}
+
+/// The description of the camera that the Aravis library simulates.
+std::string fakeCameraDescription()
+{
+    const ZetoAravis::GObjectPointer<ArvFakeCamera> camera(arv_fake_camera_new("1"));
+    std::size_t size = 0;
+    const char* const xml = arv_fake_camera_get_genicam_xml(camera.get(), &size);
+    return {xml, size};
 }
 
 QByteArray realDescription(const char* name)

@@ -62,21 +62,3 @@ void registerCallbacks(GenApi::INode* node, Listener& listener, const Listener& 
 #endif
     (void)constListener;
 }
-
-GenApi::int64_autovector_t noValues()
-{
-#ifdef CASE_EMPTY_BRACES_FOR_AUTOVECTOR
-    return {};
-#else
-    return GenApi::int64_autovector_t();
-#endif
-}
-
-void stopUsing(GenApi::INodeMap* map)
-{
-#ifdef CASE_DELETED_NODE_MAP
-    delete map;
-#else
-    map->InvalidateNodes();
-#endif
-}

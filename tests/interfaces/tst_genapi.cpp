@@ -61,7 +61,7 @@ static_assert(!std::is_convertible_v<gcstring, std::string>);
 
 static_assert(!std::is_base_of_v<std::exception, GenICam::GenericException>);
 static_assert(!std::is_polymorphic_v<GenApi::CLock> && !std::is_copy_constructible_v<GenApi::CLock>);
-static_assert(!std::has_virtual_destructor_v<GenApi::INodeMap>);
+static_assert(!std::is_destructible_v<GenApi::INodeMap>);
 static_assert(!compiles<GenApi::IBase*>(EXPRESSION_OF_A(static_cast<GenApi::IInteger*>(a))));
 
 static_assert(compiles<gcstring_vector&>(EXPRESSION_OF_A(a.begin()->c_str())));
