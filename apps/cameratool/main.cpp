@@ -14,6 +14,9 @@
 #include <ZetoCameraGuiApi/zetocamconfigtriggerdialog.h>
 
 #include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
 
 #include <algorithm>
 #include <stdexcept>
@@ -70,6 +73,10 @@ int main(int argc, char** argv)
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     const QApplication application(argc, argv);
+    QTranslator standardButtons;
+    if (standardButtons.load(QLocale(), QStringLiteral("qtbase"), QStringLiteral("_"),
+                             QLibraryInfo::location(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(&standardButtons);
 
     const Options options = readOptions(application, pageNames());
     if (!options.cameras.isEmpty())
