@@ -93,6 +93,12 @@ bool hasAutomaticIds(const QButtonGroup& group)
                        [&](QAbstractButton* button) { return group.id(button) < 0; });
 }
 
+/// The camera's value may be one that has no button.
+void ButtonGroupToEnum::prepare() const
+{
+    uncheckAll(*widget);
+}
+
 /// Gives each button an id as QButtonGroup does: from -2 downwards.
 void ButtonGroupToEnum::release() const
 {

@@ -75,6 +75,7 @@ struct ButtonGroupToEnum : KindOfBinding<ZetoGenParam::Enum, QButtonGroup>
 {
     bool automaticIds = false;
 
+    void prepare() const;
     void release() const;
     void showNothing() const;
     void refresh() const;

@@ -446,6 +446,12 @@ void TestZetoCamConfigMapper::leaves_ids_that_the_dialog_gave()
     QCOMPARE(takeWrites(), QStringList(QStringLiteral("Mode=Auto")));
     m_mapper->Clear(&m_camera->array());
     QCOMPARE(group.id(group.buttons()[0]), 4);
+
+    group.removeButton(group.buttons()[0]); // none for the camera's value
+    group.button(1)->setChecked(true);
+    m_mapper->MapEnum(m_camera->array().GetEnum("Mode", nullptr), &group);
+    QCOMPARE(group.checkedId(), -1);
+    m_mapper->Clear(&m_camera->array());
 }
 
 void TestZetoCamConfigMapper::checks_for_any_entry_but_0()
