@@ -10,6 +10,7 @@
 namespace {
 
 constexpr int settleTimeMs = 400;
+constexpr int frame = 50; // of a window, more or less
 
 void settle()
 {
@@ -45,7 +46,7 @@ QPalette darkPalette()
 
 bool renderWindow(QWidget& window, const QString& folder, const QString& name)
 {
-    const QSize screen = window.screen()->availableSize();
+    const QSize screen = window.screen()->availableSize() - QSize(frame, frame);
     if (window.sizeHint().boundedTo(screen) != window.sizeHint())
         window.setAttribute(Qt::WA_DontShowOnScreen); // a picture shows all of it, too
     window.show();
