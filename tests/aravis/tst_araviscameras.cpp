@@ -15,8 +15,8 @@
 
 #include <QtTest>
 
-#include <array>
 #include <atomic>
+#include <optional>
 
 using namespace ZetoCameraLibrary;
 
@@ -143,7 +143,8 @@ private:
     FakeGigECamera m_two{2};
     FakeGigECamera m_three{3};
     std::unique_ptr<AravisFixture> m_fixture;
-    DevicePointer m_device; ///< of the first camera
+    std::optional<EventCounter> m_events; ///< of the first camera, outlive the device
+    DevicePointer m_device;
 };
 
 void TestAravisCameras::initTestCase()
@@ -173,6 +174,8 @@ bool TestAravisCameras::openCamera()
 {
     if (m_one.start())
         m_device = m_fixture->open();
+    if (m_device)
+        m_events.emplace(m_device);
     return m_device != nullptr;
 }
 
@@ -251,49 +254,46 @@ void TestAravisCameras::keeps_a_controlled_camera_to_itself()
 void TestAravisCameras::loses_and_regains_a_camera()
 {
     QVERIFY(openCamera());
-    EventCounter events(m_device);
     ZetoGenParam::Int& width = integer(m_device, "Width");
     QCOMPARE(width.SetValue(100), 0);
 
     m_one.kill();
-    QTRY_COMPARE_WITH_TIMEOUT(events.lost.load(), 1, lossTimeoutMs);
+    QTRY_COMPARE_WITH_TIMEOUT(m_events->lost.load(), 1, lossTimeoutMs);
     int32_t error = 0;
     width.GetValue(&error);
     QCOMPARE(error, int32_t(ZetoCam::ErrorNoDevice));
     QCOMPARE(width.SetValue(101), int32_t(ZetoCam::ErrorNoDevice));
-    QCOMPARE(events.back.load(), 0);
+    QCOMPARE(m_events->back.load(), 0);
 
     QVERIFY(m_one.start());
-    QTRY_COMPARE_WITH_TIMEOUT(events.back.load(), 1, lossTimeoutMs);
+    QTRY_COMPARE_WITH_TIMEOUT(m_events->back.load(), 1, lossTimeoutMs);
     QVERIFY(width.GetValue(&error) != 100); // the new program knows nothing of the old one's values
     QCOMPARE(error, 0);
     QCOMPARE(width.SetValue(102), 0);
     QCOMPARE(width.GetValue(nullptr), 102);
-    QCOMPARE(events.lost.load(), 1);
+    QCOMPARE(m_events->lost.load(), 1);
 }
 
 /// The camera answers all the time, but knows nothing of the session any more.
 void TestAravisCameras::notices_a_restart()
 {
     QVERIFY(openCamera());
-    EventCounter events(m_device);
     m_one.kill();
     QVERIFY(m_one.start());
-    QTRY_COMPARE_WITH_TIMEOUT(events.back.load(), 1, lossTimeoutMs);
-    QCOMPARE(events.lost.load(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(m_events->back.load(), 1, lossTimeoutMs);
+    QCOMPARE(m_events->lost.load(), 1);
     QCOMPARE(integer(m_device, "Width").SetValue(100), 0);
 }
 
 void TestAravisCameras::does_not_take_another_camera_for_a_lost_one()
 {
     QVERIFY(openCamera());
-    EventCounter events(m_device);
     m_one.kill();
     ToyCamera toyCamera(toyAt(0x7F000001));
     QVERIFY(toyCamera.listen());
-    QTRY_COMPARE_WITH_TIMEOUT(events.lost.load(), 1, lossTimeoutMs);
+    QTRY_COMPARE_WITH_TIMEOUT(m_events->lost.load(), 1, lossTimeoutMs);
     m_device.reset();
-    QCOMPARE(events.back.load(), 0);
+    QCOMPARE(m_events->back.load(), 0);
 }
 
 void TestAravisCameras::closes_with_cameras_open()

@@ -204,8 +204,8 @@ void TestNodeValues::any_call_can_be_made_to_fail()
     map->setAccessHook([faults](const char* call, const GenApi::INode* node) { faults->enter(call, node); });
     visit(*map);
     const int64_t calls = faults->callCount();
-    QCOMPARE(calls, 1 + 1 + 6 * 3 + 5 +
-                        1); // node, features; node, name and access of 6; texts but the command's; poll
+    // node, features; node, name and access of 6; texts but the command's; poll
+    QCOMPARE(calls, 1 + 1 + 6 * 3 + 5 + 1);
     for (const FaultInjector::Fault fault : FaultInjector::allFaults()) {
         for (int64_t call = 0; call < calls; ++call) {
             faults->throwAt(call, fault);

@@ -238,9 +238,9 @@ void TestSimulator::refuses_the_next_write()
 
 void TestSimulator::loses_a_camera_in_mid_session()
 {
+    QString protocol; // outlives the device
     const DevicePointer device = openDual();
     ZetoGenParam::Int* period = integer(device, "PulseGenPeriod");
-    QString protocol;
     for (const int32_t id : {1003, 1004, 1004})
         QCOMPARE(device->RegisterEvent(id, protocolEvent, &protocol), 0);
     QCOMPARE(device->RegisterEvent(1, protocolEvent, &protocol), -40007);
