@@ -82,7 +82,8 @@ configure_package_config_file(cmake/ZetoCameraGuiApiConfig.cmake.in
 write_basic_package_version_file("${CMAKE_CURRENT_BINARY_DIR}/package/ZetoCameraGuiApiConfigVersion.cmake"
     COMPATIBILITY SameMinorVersion)
 install(FILES "${CMAKE_CURRENT_BINARY_DIR}/package/ZetoCameraGuiApiConfig.cmake"
-        "${CMAKE_CURRENT_BINARY_DIR}/package/ZetoCameraGuiApiConfigVersion.cmake" cmake/FindGenICam.cmake
+        "${CMAKE_CURRENT_BINARY_DIR}/package/ZetoCameraGuiApiConfigVersion.cmake"
+        cmake/FindGenICam.cmake cmake/FindZetoCameraApi.cmake
     DESTINATION ${ZETO_INSTALL_CMAKE} COMPONENT Development)
 
 if(UNIX)

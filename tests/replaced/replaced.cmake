@@ -31,7 +31,9 @@ if(commands MATCHES "${PROJECT_DIR}/(cameras|interfaces)/")
     message(FATAL_ERROR "The build reaches into the folder of our own libraries: ${CMAKE_MATCH_0}")
 endif()
 
-build(host "${CMAKE_CURRENT_LIST_DIR}/host" "-DPROJECT_DIR=${PROJECT_DIR}" "-DLIBRARY_DIR=${WORK_DIR}/library"
-    "-DMAKER_DIR=${root}" "-DGENICAM_ROOT=${WORK_DIR}/sdk")
-set(ENV{LD_LIBRARY_PATH} "${root}/lib")
+execute_process(COMMAND "${CMAKE_COMMAND}" --install "${WORK_DIR}/library" --prefix "${WORK_DIR}/installed"
+    OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
+build(host "${CMAKE_CURRENT_LIST_DIR}/host" "-DPROJECT_DIR=${PROJECT_DIR}"
+    "-DCMAKE_PREFIX_PATH=${WORK_DIR}/installed" "-DGENICAM_ROOT=${WORK_DIR}/sdk" "-DZETO_CAMERA_API_ROOT=${root}")
+set(ENV{LD_LIBRARY_PATH} "${root}/lib:${WORK_DIR}/sdk/bin/${platform}")
 execute_process(COMMAND "${WORK_DIR}/host/bin/host" COMMAND_ERROR_IS_FATAL ANY)
