@@ -101,7 +101,9 @@ int runComparisons(int argc, char** argv)
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return EXIT_FAILURE;
     BestTimes times;
-    benchmark::RunSpecifiedBenchmarks(&times);
+    const auto isTimed = [](const Line& line) { return line.timed; };
+    if (std::any_of(lines().begin(), lines().end(), isTimed)) // else it says that nothing matches
+        benchmark::RunSpecifiedBenchmarks(&times);
     std::printf("%-62s %10s %-8s %10s %8s %8s\n", "", "figure", "", "peer us", "ratio", "at most");
     for (const Line& line : lines())
         print(line, times);
