@@ -12,6 +12,6 @@ public:
 
     /// Lives as long as the camera.
     virtual GenApi::INodeMap& nodeMap() const = 0;
-    /// What a person calls it.
-    virtual QString name() const = 0;
+    virtual QString vendorName() const = 0;
+    virtual QString modelName() const = 0;
 };

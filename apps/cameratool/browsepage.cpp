@@ -12,7 +12,7 @@ namespace {
 
 constexpr uint64_t refreshTimeMs = 500;
 
-std::unique_ptr<BrowsedCamera> openCamera(const Options& options)
+std::unique_ptr<BrowsedCamera> openBrowsedCamera(const Options& options)
 {
     const bool isInLibrary = !options.cameras.isEmpty() || !options.camera.isEmpty();
     return isInLibrary ? openLibraryCamera(options.camera) : openDescription(options.description);
@@ -37,10 +37,11 @@ class BrowsePage final : public Page
 {
 public:
     explicit BrowsePage(const Options& options)
-        : m_camera(openCamera(options))
+        : m_camera(openBrowsedCamera(options))
         , m_view(&m_camera->nodeMap())
     {
-        m_view.setWindowTitle(m_camera->name());
+        const QString name = m_camera->vendorName() + QLatin1Char(' ') + m_camera->modelName();
+        m_view.setWindowTitle(name.trimmed());
         m_view.setVisibility(static_cast<ZetoGui::Visibility>(options.visibility));
         m_view.findChild<QLineEdit*>(QStringLiteral("filterLineEdit"))->setText(options.filter);
         if (options.expandAll)

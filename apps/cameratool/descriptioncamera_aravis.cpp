@@ -3,7 +3,6 @@
 #include "descriptionnodemap.h"
 
 #include <QFile>
-#include <QStringList>
 
 namespace {
 
@@ -19,13 +18,8 @@ public:
 
     GenApi::INodeMap& nodeMap() const override { return m_description->nodeMap(); }
 
-    QString name() const override
-    {
-        QStringList words = {QString::fromStdString(m_description->vendorName()),
-                             QString::fromStdString(m_description->modelName())};
-        words.removeAll(QString());
-        return words.join(QLatin1Char(' '));
-    }
+    QString vendorName() const override { return QString::fromStdString(m_description->vendorName()); }
+    QString modelName() const override { return QString::fromStdString(m_description->modelName()); }
 
 private:
     const std::unique_ptr<DescriptionNodeMap> m_description;

@@ -5,8 +5,6 @@
 #include <ZetoCameraApi.h>
 #include <ZetoGenParam.h>
 
-#include <QStringList>
-
 #include <stdexcept>
 
 namespace {
@@ -30,12 +28,8 @@ public:
 
     GenApi::INodeMap& nodeMap() const override { return *m_parameters.GetNodeMap(0); }
 
-    QString name() const override
-    {
-        QStringList words = {text("DeviceVendorName"), text("DeviceModelName")};
-        words.removeAll(QString());
-        return words.join(QLatin1Char(' '));
-    }
+    QString vendorName() const override { return text("DeviceVendorName"); }
+    QString modelName() const override { return text("DeviceModelName"); }
 
 private:
     QString text(const char* feature) const

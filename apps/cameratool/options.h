@@ -8,7 +8,7 @@ class QCoreApplication;
 /// What the person asked for on the command line.
 struct Options
 {
-    QString page;            ///< name of the window to open, one of pageNames()
+    QString page;            ///< name of the window to open
     QString description;     ///< camera description file to browse; empty: the one built into the tool
     QString cameras;         ///< kinds of cameras of the camera library; empty: as its own settings say
     QString camera;          ///< id of the camera to begin with, empty for the first one, "none" for none

@@ -33,17 +33,12 @@ void print(ZetoCam::DeviceInfo* chosen)
         printf("No camera was chosen.\n");
 }
 
-/// The camera with that id, the first one for an empty id.
-QModelIndex rowOf(const QString& cameraId, const QAbstractItemModel& model, const QModelIndex& parent = {})
+QModelIndex firstCamera(const DeviceTreeModel& model)
 {
-    for (int row = 0; row < model.rowCount(parent); ++row) {
-        const QModelIndex index = model.index(row, 0, parent);
-        auto* const camera = index.data(DeviceTreeModel::ObjectRole).value<ZetoCam::DeviceInfo*>();
-        if (camera && (cameraId.isEmpty() || cameraId == QLatin1String(camera->GetID())))
-            return index;
-        const QModelIndex below = rowOf(cameraId, model, index);
-        if (below.isValid())
-            return below;
+    for (int row = 0; row < model.rowCount(); ++row) {
+        const QModelIndex camera = model.index(0, 0, model.index(row, 0));
+        if (camera.isValid())
+            return camera;
     }
     return {};
 }
@@ -55,7 +50,8 @@ public:
         : m_selector(&openSystem(options), nullptr, options.poll)
     {
         auto& tree = *m_selector.findChild<QTreeView*>(QStringLiteral("cameraTreeView"));
-        tree.setCurrentIndex(rowOf(options.camera, *tree.model()));
+        const auto& model = *static_cast<DeviceTreeModel*>(tree.model());
+        tree.setCurrentIndex(options.camera.isEmpty() ? firstCamera(model) : model.indexOf(options.camera));
         QObject::connect(&m_selector, &QDialog::finished, &m_selector, [this](int result) {
             print(result == QDialog::Accepted ? m_selector.selectedCamera() : nullptr);
         });

@@ -1,6 +1,5 @@
 // Renders the drawings of src/resources/sources to what the library carries: images and pictures for 100 %
-// and
-// ("@2x") 200 %, icons in all sizes. Run it after a drawing was changed and commit both:
+// and ("@2x") 200 %, icons in all sizes. Run it after a drawing was changed and commit both:
 //
 //     cmake -S tools/rendericons -B build/rendericons && cmake --build build/rendericons
 //     build/rendericons/rendericons src/resources
