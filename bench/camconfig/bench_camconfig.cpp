@@ -15,7 +15,7 @@ namespace {
 
 struct Camera
 {
-    SimulatorFixture simulator{ZetoSimulator::SimulatorSetup::standard()};
+    SimulatorFixture simulator;
     ZetoCam::Device& device = *simulator.open("sim.gev0.dual");
     ZetoGenParam::Array& array = *device.GetParameters(nullptr);
 
@@ -113,9 +113,8 @@ int main(int argc, char** argv)
     const QApplication application(argc, argv);
     QApplication::setStyle(QStringLiteral("Fusion"));
     Camera camera;
-    for (const DialogRow& row : dialogTable) {
+    for (const DialogRow& row : dialogTable)
         compareOpening(row, camera, featuresOf(row, camera));
-    }
     compareChanges(camera);
     return runComparisons(argc, argv);
 }

@@ -24,17 +24,20 @@ SelectorBench::SelectorBench()
     m_constantTree.setModel(&m_constants);
     m_constantTree.setUniformRowHeights(true);
     m_constantTree.setEditTriggers(QAbstractItemView::NoEditTriggers);
-    auto& tree = *m_selector.findChild<QTreeView*>(QStringLiteral("cameraTreeView"));
     m_selector.show();
-    m_constantTree.resize(tree.size());
+    m_constantTree.resize(cameraTree().size());
     m_constantTree.show();
     settle();
 }
 
-DeviceTreeModel& SelectorBench::model()
+QTreeView& SelectorBench::cameraTree() const
 {
-    auto& tree = *m_selector.findChild<QTreeView*>(QStringLiteral("cameraTreeView"));
-    return *static_cast<DeviceTreeModel*>(tree.model());
+    return *m_selector.findChild<QTreeView*>(QStringLiteral("cameraTreeView"));
+}
+
+DeviceTreeModel& SelectorBench::model() const
+{
+    return *static_cast<DeviceTreeModel*>(cameraTree().model());
 }
 
 void SelectorBench::fillConstants()

@@ -38,7 +38,7 @@ public:
     SelectorBench();
 
     ManyCameras& cameras() { return m_cameras; }
-    DeviceTreeModel& model();
+    DeviceTreeModel& model() const;
 
     /// Fills the constant tree anew and brings it to the state in which the selector's tree is after a
     /// change.
@@ -48,6 +48,7 @@ public:
     static void settle();
 
 private:
+    QTreeView& cameraTree() const;
     void fillConstants();
 
     ManyCameras m_cameras;

@@ -7,7 +7,6 @@
 
 DialogFixture::DialogFixture(const char* cameraId)
     : m_id(cameraId)
-    , m_simulator(ZetoSimulator::SimulatorSetup::standard())
     , m_device(m_simulator.open(cameraId))
     , m_faulty(std::make_unique<FaultyDevice>(*m_device))
 {

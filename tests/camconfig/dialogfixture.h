@@ -1,12 +1,12 @@
 #pragma once
 
+#include "childof.h"
 #include "faultydevice.h"
 #include "nodemap.h"
 #include "simulatorfixture.h"
 
 #include <QDialog>
 
-#include <functional>
 #include <memory>
 
 /// A simulated camera that is open, its features as the camera sees them, and its calls in the hand of a
@@ -37,21 +37,6 @@ private:
     ZetoCam::Device* m_device;
     std::unique_ptr<FaultyDevice> m_faulty;
 };
-
-/// One of the feature dialogs, for tests that are the same for all of them.
-struct DialogKind
-{
-    const char* name;
-    std::function<std::unique_ptr<QDialog>(ZetoCam::Device*)> make;
-    std::function<void(QDialog&, ZetoCam::Device*)> setDevice;
-};
-
-template <typename Dialog>
-DialogKind dialogKind(const char* name)
-{
-    return {name, [](ZetoCam::Device* device) { return std::make_unique<Dialog>(device); },
-            [](QDialog& dialog, ZetoCam::Device* device) { static_cast<Dialog&>(dialog).SetDevice(device); }};
-}
 
 /// Edits every control of \a dialog that is enabled, once.
 void useEveryControl(QDialog& dialog);

@@ -2,8 +2,6 @@
 
 #include "devicetreemodel.h"
 
-#include <ZetoCameraApi.h>
-
 #include <QAction>
 #include <QApplication>
 #include <QDialogButtonBox>
@@ -25,32 +23,18 @@ QString frameIn(const ZetoGui::ZetoCamConfig& window, char frame)
     return texts.join(QLatin1Char(' '));
 }
 
-QModelIndex rowOf(const QString& cameraId, const QAbstractItemModel& model, const QModelIndex& parent = {})
-{
-    for (int row = 0; row < model.rowCount(parent); ++row) {
-        const QModelIndex index = model.index(row, 0, parent);
-        auto* const camera = index.data(DeviceTreeModel::ObjectRole).value<ZetoCam::DeviceInfo*>();
-        if (camera && cameraId == QLatin1String(camera->GetID()))
-            return index;
-        const QModelIndex below = rowOf(cameraId, model, index);
-        if (below.isValid())
-            return below;
-    }
-    return {};
-}
-
 } // namespace
 
 QString informationIn(const ZetoGui::ZetoCamConfig& window)
 {
-    const bool hasTwoFrames = child<QLineEdit>(window, "lineEditSizeFrameB").isVisibleTo(&window);
+    const bool hasTwoFrames = childOf<QLineEdit>(window, "lineEditSizeFrameB").isVisibleTo(&window);
     return hasTwoFrames ? frameIn(window, 'A') + QLatin1Char('|') + frameIn(window, 'B')
                         : frameIn(window, 'A');
 }
 
 QString statusIn(const ZetoGui::ZetoCamConfig& window)
 {
-    return child<QLabel>(window, "statusText").text();
+    return childOf<QLabel>(window, "statusText").text();
 }
 
 void tick(ZetoGui::ZetoCamConfig& window)
@@ -61,7 +45,7 @@ void tick(ZetoGui::ZetoCamConfig& window)
 
 void trigger(const ZetoGui::ZetoCamConfig& window, const char* action)
 {
-    child<QAction>(window, action).trigger();
+    childOf<QAction>(window, action).trigger();
 }
 
 void whenAsked(const char* className, const std::function<void(QDialog&)>& answer)
@@ -80,9 +64,9 @@ void whenAsked(const char* className, const std::function<void(QDialog&)>& answe
 
 void choose(QDialog& selector, const QString& cameraId)
 {
-    auto& tree = child<QTreeView>(selector, "cameraTreeView");
-    tree.setCurrentIndex(rowOf(cameraId, *tree.model()));
-    child<QDialogButtonBox>(selector, "buttonBox").button(QDialogButtonBox::Ok)->click();
+    auto& tree = childOf<QTreeView>(selector, "cameraTreeView");
+    tree.setCurrentIndex(static_cast<DeviceTreeModel*>(tree.model())->indexOf(cameraId));
+    childOf<QDialogButtonBox>(selector, "buttonBox").button(QDialogButtonBox::Ok)->click();
 }
 
 } // namespace MainWindowDriver

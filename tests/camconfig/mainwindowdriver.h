@@ -1,5 +1,7 @@
 #pragma once
 
+#include "childof.h"
+
 #include <ZetoCameraGuiApi/zetocamconfig.h>
 
 #include <QDialog>
@@ -9,12 +11,6 @@
 
 /// What a person sees of the configuration tool's main window and does with it.
 namespace MainWindowDriver {
-
-template <typename Widget>
-Widget& child(const QWidget& window, const char* name)
-{
-    return *window.findChild<Widget*>(QLatin1String(name));
-}
 
 /// The lines of the information block, for example "4096x3072 25.00 10000 40000"; of Frame B behind a '|'
 /// when its column is there.

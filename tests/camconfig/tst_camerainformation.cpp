@@ -140,81 +140,64 @@ class TestCameraInformation : public QObject
     Q_OBJECT
 
 private slots:
-    void reads_both_frames_data();
     void reads_both_frames();
-    void passes_over_what_cannot_be_read_data();
     void passes_over_what_cannot_be_read();
     void asks_no_further_when_the_camera_does_not_answer();
-    void takes_turns_with_a_slow_camera_data();
     void takes_turns_with_a_slow_camera();
-    void keeps_the_switching_to_itself_data();
     void keeps_the_switching_to_itself();
     void follows_the_frame_features();
-    void tells_features_as_text_data();
     void tells_features_as_text();
 };
 
-void TestCameraInformation::reads_both_frames_data()
-{
-    QTest::addColumn<int>("lacks");
-    QTest::addColumn<QByteArray>("selected");
-    QTest::addColumn<QString>("frames");
-    QTest::addColumn<int>("switches");
-    const QString both = QStringLiteral("4000x3000 100/40000 2000x1500 50/20000");
-    QTest::newRow("Frame A is selected") << int(Nothing) << QByteArray("FrameA") << both << 2;
-    QTest::newRow("Frame B is selected") << int(Nothing) << QByteArray("FrameB") << both << 2;
-    QTest::newRow("no frames") << int(Selector) << QByteArray() << "4000x3000 100/40000 -x- -/-" << 0;
-    QTest::newRow("no height") << int(Height) << QByteArray("FrameB") << "4000x- 100/40000 2000x- 50/20000"
-                               << 2;
-    QTest::newRow("nothing") << int(Everything) << QByteArray() << "-x- -/- -x- -/-" << 0;
-}
-
 void TestCameraInformation::reads_both_frames()
 {
-    QFETCH(int, lacks);
-    QFETCH(QByteArray, selected);
-    QFETCH(int, switches);
-    Camera camera(static_cast<Lacks>(lacks));
-    if (!selected.isEmpty())
-        camera.select(selected);
-    const FrameState state(camera.params);
-    CameraInformation information(camera.params, state);
-    for (int i = 0; i < 2; ++i) {
-        camera.log.clear();
-        QCOMPARE(information.read(camera.budget()), CameraInformation::Complete);
-        QTEST(framesOf(information), "frames");
-        QCOMPARE(camera.log.count(QStringLiteral("switch")), switches);
-        if (switches) {
-            QCOMPARE(camera.map->text("FrameAB_Selector"), selected.toStdString());
-            QVERIFY(camera.log.indexOf(QStringLiteral("Width")) <
-                    camera.log.indexOf(QStringLiteral("switch")));
+    struct Case
+    {
+        Lacks lacks;
+        const char* selected;
+        const char* frames;
+    };
+    const Case cases[] = {
+        {Nothing, "FrameA", "4000x3000 100/40000 2000x1500 50/20000"},
+        {Nothing, "FrameB", "4000x3000 100/40000 2000x1500 50/20000"},
+        {Height, "FrameB", "4000x- 100/40000 2000x- 50/20000"},
+        {Selector, nullptr, "4000x3000 100/40000 -x- -/-"},
+        {Everything, nullptr, "-x- -/- -x- -/-"},
+    };
+    for (const Case& each : cases) {
+        Camera camera(each.lacks);
+        if (each.selected)
+            camera.select(each.selected);
+        const FrameState state(camera.params);
+        CameraInformation information(camera.params, state);
+        for (int i = 0; i < 2; ++i) {
+            camera.log.clear();
+            QCOMPARE(information.read(camera.budget()), CameraInformation::Complete);
+            QCOMPARE(framesOf(information), each.frames);
+            QCOMPARE(camera.log.count("switch"), each.selected ? 2 : 0);
+            if (each.selected) {
+                QCOMPARE(camera.map->text("FrameAB_Selector"), std::string(each.selected));
+                QVERIFY(camera.log.indexOf("Width") < camera.log.indexOf("switch"));
+            }
         }
+        QCOMPARE(information.temperature().has_value(), each.lacks != Everything);
     }
-    QCOMPARE(information.temperature().has_value(), lacks != Everything);
-}
-
-void TestCameraInformation::passes_over_what_cannot_be_read_data()
-{
-    QTest::addColumn<QString>("failing");
-    QTest::addColumn<QString>("frames");
-    QTest::newRow("width") << "Width"
-                           << "-x3000 100/40000 -x1500 50/20000";
-    QTest::newRow("exposure") << "CurrentExposureTime"
-                              << "4000x3000 -/40000 2000x1500 -/20000";
-    QTest::newRow("temperature") << "CurrentTemperature"
-                                 << "4000x3000 100/40000 2000x1500 50/20000";
 }
 
 void TestCameraInformation::passes_over_what_cannot_be_read()
 {
-    QFETCH(QString, failing);
     Camera camera;
-    camera.failing = failing;
     camera.failure = ZetoCam::ErrorGenICamAccess;
     const FrameState state(camera.params);
-    CameraInformation information(camera.params, state);
-    QCOMPARE(information.read(camera.budget()), CameraInformation::Complete);
-    QTEST(framesOf(information), "frames");
+    const auto framesWithout = [&](const char* feature) {
+        camera.failing = feature;
+        CameraInformation information(camera.params, state);
+        return information.read(camera.budget()) == CameraInformation::Complete ? framesOf(information)
+                                                                                : QString();
+    };
+    QCOMPARE(framesWithout("Width"), "-x3000 100/40000 -x1500 50/20000");
+    QCOMPARE(framesWithout("CurrentExposureTime"), "4000x3000 -/40000 2000x1500 -/20000");
+    QCOMPARE(framesWithout("CurrentTemperature"), "4000x3000 100/40000 2000x1500 50/20000");
 }
 
 void TestCameraInformation::asks_no_further_when_the_camera_does_not_answer()
@@ -231,73 +214,62 @@ void TestCameraInformation::asks_no_further_when_the_camera_does_not_answer()
     QCOMPARE(information.read(camera.budget()), CameraInformation::Complete);
 }
 
-void TestCameraInformation::takes_turns_with_a_slow_camera_data()
-{
-    QTest::addColumn<int>("accessTime");
-    for (const int milliseconds : {30, 60, 150, 250, 5000})
-        QTest::addRow("%d ms", milliseconds) << milliseconds;
-}
-
 void TestCameraInformation::takes_turns_with_a_slow_camera()
 {
-    QFETCH(int, accessTime);
-    Camera camera;
-    camera.select("FrameB");
-    const FrameState state(camera.params);
-    CameraInformation information(camera.params, state);
-    camera.accessTime = std::chrono::milliseconds(accessTime);
-    for (int readings = 0; readings < 9; ++readings) {
-        const auto begin = camera.now;
-        QCOMPARE(information.read(camera.budget()), CameraInformation::Slow);
-        QVERIFY(camera.now - begin <= 200ms + 4 * camera.accessTime);
-        QCOMPARE(camera.map->text("FrameAB_Selector"), std::string("FrameB"));
+    for (const auto accessTime : {30ms, 60ms, 150ms, 250ms, 5000ms}) {
+        Camera camera;
+        camera.select("FrameB");
+        const FrameState state(camera.params);
+        CameraInformation information(camera.params, state);
+        camera.accessTime = accessTime;
+        for (int readings = 0; readings < 9; ++readings) {
+            const auto begin = camera.now;
+            QCOMPARE(information.read(camera.budget()), CameraInformation::Slow);
+            QVERIFY(camera.now - begin <= 200ms + 4 * accessTime);
+            QCOMPARE(camera.map->text("FrameAB_Selector"), std::string("FrameB"));
+        }
+        QCOMPARE(framesOf(information), "4000x3000 100/40000 2000x1500 50/20000");
     }
-    QCOMPARE(textOf(information.frameA()), QStringLiteral("4000x3000 100/40000"));
-    QCOMPARE(textOf(information.frameB()), QStringLiteral("2000x1500 50/20000"));
-}
-
-void TestCameraInformation::keeps_the_switching_to_itself_data()
-{
-    QTest::addColumn<QList<int>>("failures");
-    QTest::addColumn<QString>("selected");
-    QTest::addColumn<QString>("heard");
-    QTest::addColumn<QString>("other");
-    const int refused = ZetoCam::ErrorGenICamAccess;
-    const QString read = QStringLiteral("2000x1500 50/20000");
-    QTest::newRow("goes and returns") << QList<int>{} << "FrameA"
-                                      << "" << read;
-    QTest::newRow("may not go") << QList<int>{refused} << "FrameA"
-                                << ""
-                                << "-x- -/-";
-    QTest::newRow("returns at the second attempt") << QList<int>{0, refused} << "FrameA"
-                                                   << "" << read;
-    QTest::newRow("may not return") << QList<int>{0, refused, refused} << "FrameB"
-                                    << "FrameAB_Selector,Width" << read;
-    QTest::newRow("is lost there") << QList<int>{0, ZetoCam::ErrorNoDevice} << "FrameB"
-                                   << "FrameAB_Selector,Width" << read;
 }
 
 void TestCameraInformation::keeps_the_switching_to_itself()
 {
-    QFETCH(QList<int>, failures);
-    QFETCH(QString, selected);
-    Camera camera;
-    Listener listener;
-    for (const char* name : {"FrameAB_Selector", "Width"})
-        camera.params.GetParam(name, nullptr)->RegisterEventSink(&listener);
-    const FrameState state(camera.params);
-    CameraInformation information(camera.params, state);
-    camera.switchingFailures = failures;
-    information.read(camera.budget());
-    QCOMPARE(QString::fromStdString(camera.map->text("FrameAB_Selector")), selected);
-    QCOMPARE(QString::fromLatin1(state.selectedFrame()), selected);
-    listener.heard.sort();
-    QTEST(listener.heard.join(QLatin1Char(',')), "heard");
-    QTEST(textOf(information.frameB()), "other");
+    constexpr int32_t refused = ZetoCam::ErrorGenICamAccess;
+    struct Case
+    {
+        QList<int32_t> failures; ///< of the attempts to switch
+        const char* selected;    ///< in the end
+        QStringList heard;
+        const char* other; ///< the other frame as it was read
+    };
+    const char* const read = "2000x1500 50/20000";
+    const QStringList change = {"FrameAB_Selector", "Width"};
+    const Case cases[] = {
+        {{}, "FrameA", {}, read},
+        {{refused}, "FrameA", {}, "-x- -/-"},
+        {{0, refused}, "FrameA", {}, read}, // returns at the second attempt
+        {{0, refused, refused}, "FrameB", change, read},
+        {{0, ZetoCam::ErrorNoDevice}, "FrameB", change, read}, // is lost there
+    };
+    for (const Case& each : cases) {
+        Camera camera;
+        Listener listener;
+        for (const char* name : {"FrameAB_Selector", "Width"})
+            camera.params.GetParam(name, nullptr)->RegisterEventSink(&listener);
+        const FrameState state(camera.params);
+        CameraInformation information(camera.params, state);
+        camera.switchingFailures = each.failures;
+        information.read(camera.budget());
+        QCOMPARE(camera.map->text("FrameAB_Selector"), std::string(each.selected));
+        QCOMPARE(state.selectedFrame(), each.selected);
+        listener.heard.sort();
+        QCOMPARE(listener.heard, each.heard);
+        QCOMPARE(textOf(information.frameB()), each.other);
 
-    listener.heard.clear();
-    camera.select(state.isFrameBSelected() ? "FrameA" : "FrameB");
-    QVERIFY(listener.heard.contains(QStringLiteral("Width")));
+        listener.heard.clear();
+        camera.select(state.isFrameBSelected() ? "FrameA" : "FrameB");
+        QVERIFY(listener.heard.contains("Width"));
+    }
 }
 
 void TestCameraInformation::follows_the_frame_features()
@@ -322,22 +294,8 @@ void TestCameraInformation::follows_the_frame_features()
     QVERIFY(state.takeModeChange());
 }
 
-void TestCameraInformation::tells_features_as_text_data()
-{
-    QTest::addColumn<QByteArray>("feature");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("text") << QByteArray("Text") << QString::fromUtf8("K\xc3\xa4mera");
-    QTest::newRow("empty text") << QByteArray("Empty") << QString();
-    QTest::newRow("entry") << QByteArray("Entry") << "BayerRG";
-    QTest::newRow("number") << QByteArray("Number") << "-9223372036854775808";
-    QTest::newRow("hidden") << QByteArray("Hidden") << "N/A";
-    QTest::newRow("another type") << QByteArray("Switch") << "N/A";
-    QTest::newRow("none") << QByteArray("Nowhere") << "N/A";
-}
-
 void TestCameraInformation::tells_features_as_text()
 {
-    QFETCH(QByteArray, feature);
     NodeMapBuilder b;
     b.category("Root");
     b.string("Text").in("Root").value("K\xc3\xa4mera");
@@ -348,9 +306,14 @@ void TestCameraInformation::tells_features_as_text()
     b.boolean("Switch").in("Root").value(true);
     const std::unique_ptr<NodeMap> map = b.build();
     ZetoGenParam::NodeMapArray params(*map);
-    QTEST(ZetoGui::featureText(&params, feature), "text");
-    QCOMPARE(ZetoGui::featureText(nullptr, feature), QStringLiteral("N/A"));
-    QCOMPARE(ZetoGui::modelName(params), QStringLiteral("Unknown"));
+    QCOMPARE(ZetoGui::featureText(&params, "Text"), QString::fromUtf8("K\xc3\xa4mera"));
+    QCOMPARE(ZetoGui::featureText(&params, "Empty"), "");
+    QCOMPARE(ZetoGui::featureText(&params, "Entry"), "BayerRG");
+    QCOMPARE(ZetoGui::featureText(&params, "Number"), "-9223372036854775808");
+    for (const char* lacking : {"Hidden", "Switch", "Nowhere"})
+        QCOMPARE(ZetoGui::featureText(&params, lacking), "N/A");
+    QCOMPARE(ZetoGui::featureText(nullptr, "Text"), "N/A");
+    QCOMPARE(ZetoGui::modelName(params), "Unknown");
 }
 
 ZETO_TEST_MAIN(TestCameraInformation)

@@ -12,116 +12,72 @@
 using namespace std::chrono_literals;
 using ZetoGui::ConnectionStatus;
 
-Q_DECLARE_METATYPE(std::optional<int64_t>)
-
-namespace {
-
-using Value = std::optional<int64_t>;
-
-constexpr int64_t largest = std::numeric_limits<int64_t>::max();
-const Value none;
-
-} // namespace
-
 /// The small calculations behind the main window.
 class TestConfigTexts : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void tells_the_size_data();
     void tells_the_size();
-    void tells_the_frame_rate_data();
     void tells_the_frame_rate();
-    void tells_the_connection_data();
     void tells_the_connection();
-    void places_dialogs_beside_the_window_data();
     void places_dialogs_beside_the_window();
     void rests_after_long_readings();
 };
 
-void TestConfigTexts::tells_the_size_data()
-{
-    QTest::addColumn<Value>("width");
-    QTest::addColumn<Value>("height");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("both") << Value(4096) << Value(3072) << "4096x3072";
-    QTest::newRow("a line camera") << Value(4096) << none << "4096";
-    QTest::newRow("no width") << none << Value(3072) << "";
-    QTest::newRow("nothing") << none << none << "";
-    QTest::newRow("largest") << Value(largest) << Value(0) << "9223372036854775807x0";
-}
+namespace {
+
+constexpr int64_t largest = std::numeric_limits<int64_t>::max();
+
+} // namespace
 
 void TestConfigTexts::tells_the_size()
 {
-    QFETCH(Value, width);
-    QFETCH(Value, height);
-    QTEST(ZetoGui::sizeText(width, height), "text");
-}
-
-void TestConfigTexts::tells_the_frame_rate_data()
-{
-    QTest::addColumn<Value>("frameTime");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("25 fps") << Value(40000) << "25.00";
-    QTest::newRow("a third") << Value(3000000) << "0.33";
-    QTest::newRow("fastest") << Value(1) << "1000000.00";
-    QTest::newRow("no time") << Value(0) << "0.00";
-    QTest::newRow("less than no time") << Value(-5) << "0.00";
-    QTest::newRow("slowest") << Value(largest) << "0.00";
-    QTest::newRow("unknown") << none << "";
+    QCOMPARE(ZetoGui::sizeText(4096, 3072), "4096x3072");
+    QCOMPARE(ZetoGui::sizeText(4096, {}), "4096"); // a line camera
+    QCOMPARE(ZetoGui::sizeText({}, 3072), "");
+    QCOMPARE(ZetoGui::sizeText({}, {}), "");
+    QCOMPARE(ZetoGui::sizeText(largest, 0), "9223372036854775807x0");
 }
 
 void TestConfigTexts::tells_the_frame_rate()
 {
     const ScopedLocale german{QLocale(QLocale::German)};
-    QFETCH(Value, frameTime);
-    QTEST(ZetoGui::frameRateText(frameTime), "text");
-}
-
-void TestConfigTexts::tells_the_connection_data()
-{
-    QTest::addColumn<int>("state");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("none") << int(ConnectionStatus::Disconnected) << "Disconnected";
-    QTest::newRow("there") << int(ConnectionStatus::Connected) << "M%1";
-    QTest::newRow("slow") << int(ConnectionStatus::Slow) << "M%1 answers slowly";
-    QTest::newRow("silent") << int(ConnectionStatus::NotAnswering) << "M%1 does not answer";
-    QTest::newRow("lost") << int(ConnectionStatus::Lost) << "Connection to M%1 lost";
+    QCOMPARE(ZetoGui::frameRateText(40000), "25.00");
+    QCOMPARE(ZetoGui::frameRateText(3000000), "0.33");
+    QCOMPARE(ZetoGui::frameRateText(1), "1000000.00");
+    QCOMPARE(ZetoGui::frameRateText(0), "0.00");
+    QCOMPARE(ZetoGui::frameRateText(-5), "0.00");
+    QCOMPARE(ZetoGui::frameRateText(largest), "0.00");
+    QCOMPARE(ZetoGui::frameRateText({}), "");
 }
 
 void TestConfigTexts::tells_the_connection()
 {
-    QFETCH(int, state);
-    QTEST(ConnectionStatus::text(static_cast<ConnectionStatus::State>(state), QStringLiteral("M%1")), "text");
-}
-
-void TestConfigTexts::places_dialogs_beside_the_window_data()
-{
-    QTest::addColumn<QRect>("window");
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<int>("shift");
-    QTest::addColumn<QPoint>("place");
-    const QSize dialog(400, 300);
-    QTest::newRow("to the right") << QRect(100, 100, 300, 400) << dialog << 0 << QPoint(408, 100);
-    QTest::newRow("the second one") << QRect(100, 100, 300, 400) << dialog << 24 << QPoint(432, 124);
-    QTest::newRow("to the left") << QRect(900, 100, 300, 400) << dialog << 0 << QPoint(492, 100);
-    QTest::newRow("the second one on the left")
-        << QRect(900, 100, 300, 400) << dialog << 24 << QPoint(468, 124);
-    QTest::newRow("room on no side") << QRect(400, 100, 700, 400) << dialog << 0 << QPoint(10, 172);
-    QTest::newRow("near the bottom") << QRect(100, 900, 300, 90) << dialog << 0 << QPoint(408, 724);
-    QTest::newRow("larger than the screen")
-        << QRect(100, 100, 300, 400) << QSize(2000, 2000) << 0 << QPoint(10, 0);
-    QTest::newRow("window beyond the screen") << QRect(-500, -200, 300, 400) << dialog << 0 << QPoint(10, 0);
+    const auto text = [](ConnectionStatus::State state) { return ConnectionStatus::text(state, "M%1"); };
+    QCOMPARE(text(ConnectionStatus::Disconnected), "Disconnected");
+    QCOMPARE(text(ConnectionStatus::Connected), "M%1");
+    QCOMPARE(text(ConnectionStatus::Slow), "M%1 answers slowly");
+    QCOMPARE(text(ConnectionStatus::NotAnswering), "M%1 does not answer");
+    QCOMPARE(text(ConnectionStatus::Lost), "Connection to M%1 lost");
 }
 
 void TestConfigTexts::places_dialogs_beside_the_window()
 {
-    QFETCH(QRect, window);
-    QFETCH(QSize, size);
-    QFETCH(int, shift);
     const QRect screen(10, 0, 1280, 1024);
-    QTEST(ZetoGui::placeBeside(window, size, screen, shift), "place");
+    const auto place = [&screen](const QRect& window, int shift, const QSize& size = {400, 300}) {
+        return ZetoGui::placeBeside(window, size, screen, shift);
+    };
+    const QRect left(100, 100, 300, 400);
+    const QRect right(900, 100, 300, 400);
+    QCOMPARE(place(left, 0), QPoint(408, 100));
+    QCOMPARE(place(left, 24), QPoint(432, 124));
+    QCOMPARE(place(right, 0), QPoint(492, 100));
+    QCOMPARE(place(right, 24), QPoint(468, 124));
+    QCOMPARE(place({400, 100, 700, 400}, 0), QPoint(10, 172)); // room on no side
+    QCOMPARE(place({100, 900, 300, 90}, 0), QPoint(408, 724));
+    QCOMPARE(place(left, 0, {2000, 2000}), QPoint(10, 0)); // larger than the screen
+    QCOMPARE(place({-500, -200, 300, 400}, 0), QPoint(10, 0));
 }
 
 void TestConfigTexts::rests_after_long_readings()

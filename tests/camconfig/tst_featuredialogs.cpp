@@ -1,5 +1,13 @@
-#include "featuredialogs.h"
+#include "datatable.h"
+#include "dialogfixture.h"
 #include "messageboxes.h"
+
+#include <ZetoCameraGuiApi/zetocamconfigcolordialog.h>
+#include <ZetoCameraGuiApi/zetocamconfigframeabdialog.h>
+#include <ZetoCameraGuiApi/zetocamconfigoutputdialog.h>
+#include <ZetoCameraGuiApi/zetocamconfigpulsedialog.h>
+#include <ZetoCameraGuiApi/zetocamconfigstrobedialog.h>
+#include <ZetoCameraGuiApi/zetocamconfigtriggerdialog.h>
 
 #include "testmain.h"
 
@@ -13,7 +21,43 @@
 #include <QScreen>
 #include <QtTest>
 
-/// What all feature dialogs have in common, for each of them.
+#include <algorithm>
+#include <functional>
+
+namespace {
+
+/// One of the feature dialogs.
+struct DialogKind
+{
+    const char* name;
+    std::function<std::unique_ptr<QDialog>(ZetoCam::Device*)> make;
+    std::function<void(QDialog&, ZetoCam::Device*)> setDevice;
+};
+
+template <typename Dialog>
+DialogKind dialogKind(const char* name)
+{
+    return {name, [](ZetoCam::Device* device) { return std::make_unique<Dialog>(device); },
+            [](QDialog& dialog, ZetoCam::Device* device) { static_cast<Dialog&>(dialog).SetDevice(device); }};
+}
+
+/// All feature dialogs.
+const std::vector<DialogKind>& featureDialogs()
+{
+    static const std::vector<DialogKind> dialogs = {
+        dialogKind<ZetoGui::ZetoCamConfigColorDialog>("color"),
+        dialogKind<ZetoGui::ZetoCamConfigFrameABDialog>("frameab"),
+        dialogKind<ZetoGui::ZetoCamConfigOutputDialog>("output"),
+        dialogKind<ZetoGui::ZetoCamConfigPulseDialog>("pulse"),
+        dialogKind<ZetoGui::ZetoCamConfigStrobeDialog>("strobe"),
+        dialogKind<ZetoGui::ZetoCamConfigTriggerDialog>("trigger"),
+    };
+    return dialogs;
+}
+
+} // namespace
+
+/// What all feature dialogs have in common, for each of them, and what each of their controls writes.
 class TestFeatureDialogs : public QObject
 {
     Q_OBJECT
@@ -21,8 +65,6 @@ class TestFeatureDialogs : public QObject
 private slots:
     void shows_any_camera_or_none_data() { addDialogs(); }
     void shows_any_camera_or_none();
-    void writes_a_typed_number_once_data() { addDialogs(); }
-    void writes_a_typed_number_once();
     void writes_nothing_while_the_camera_changes_data() { addDialogs(); }
     void writes_nothing_while_the_camera_changes();
     void changes_cameras_data() { addDialogs(); }
@@ -39,6 +81,8 @@ private slots:
     void survives_the_loss_of_the_camera();
     void says_that_it_closes_data() { addDialogs(); }
     void says_that_it_closes();
+    void writes_the_feature_of_a_control_data();
+    void writes_the_feature_of_a_control();
 
 private:
     static void addDialogs();
@@ -65,6 +109,26 @@ QStringList shownIn(const QDialog& dialog)
     for (const auto* const each : dialog.findChildren<QAbstractButton*>())
         add(each, each->text() + (each->isChecked() ? QStringLiteral(" checked") : QString()));
     return shown;
+}
+
+/// Edits the control \a name, the next thing to be had.
+void edit(QDialog& dialog, const QString& name)
+{
+    auto* const widget = dialog.findChild<QWidget*>(name);
+    if (auto* const combo = qobject_cast<QComboBox*>(widget))
+        combo->setCurrentIndex(combo->currentIndex() + 1);
+    else if (auto* const button = qobject_cast<QAbstractButton*>(widget))
+        button->click();
+    else
+        widget->findChild<QAbstractSpinBox*>()->stepUp();
+}
+
+/// Lets every control be edited.
+void allowEverything(ZetoNodeMap::NodeMap& features)
+{
+    for (const char* const correction : {"DefectPixelCorrection", "HotPixelCorrection"})
+        features.assign(correction, std::string("Dynamic"));
+    features.assign("PulseGenMode", std::string("NumPulses"));
 }
 
 } // namespace
@@ -95,17 +159,11 @@ void TestFeatureDialogs::shows_any_camera_or_none()
         const auto buttons = dialog->findChildren<QPushButton*>();
         for (const QPushButton* const button : buttons)
             QVERIFY2(!button->autoDefault(), "Enter in a field would press it");
+        const auto fields = dialog->findChildren<QAbstractSpinBox*>();
+        for (const QAbstractSpinBox* const field : fields)
+            QVERIFY2(!field->isEnabled() || !field->keyboardTracking(), "writes each digit");
     }
     QVERIFY(!kind().make(nullptr)->isEnabled());
-}
-
-void TestFeatureDialogs::writes_a_typed_number_once()
-{
-    DialogFixture fixture;
-    const auto dialog = kind().make(&fixture.device());
-    const auto fields = dialog->findChildren<QAbstractSpinBox*>();
-    for (const QAbstractSpinBox* const field : fields)
-        QVERIFY2(!field->keyboardTracking(), qPrintable(field->parent()->objectName()));
 }
 
 void TestFeatureDialogs::writes_nothing_while_the_camera_changes()
@@ -244,6 +302,58 @@ void TestFeatureDialogs::says_that_it_closes()
     QTest::keyClick(dialog.get(), Qt::Key_Escape);
     QCOMPARE(closing.size(), 2);
     QVERIFY(!dialog->isVisible());
+}
+
+void TestFeatureDialogs::writes_the_feature_of_a_control_data()
+{
+    const DataTable<QString, QString> table("dialog", "write");
+    table.row("cmBoxGranularity", "pulse", "PulseGenGranularity=x2");
+    table.row("spBoxPeriod", "pulse", "PulseGenPeriod=1001");
+    table.row("spBoxWidth", "pulse", "PulseGenWidth=251");
+    table.row("spBoxNumPulses", "pulse", "PulseGenNumPulses=11");
+    table.row("radioBtnContinious", "pulse", "PulseGenMode=Continuous");
+    table.row("pushBtnPulseEnable", "pulse", "PulseGenEnable=1");
+
+    table.row("cmBoxStrobe1Mode", "strobe", "Strobe1Mode=Enabled");
+    table.row("cmBoxStrobe1Ref", "strobe", "Strobe1Reference=ReadoutStart");
+    table.row("spBoxStrobe1Delay", "strobe", "Strobe1Delay=1");
+    table.row("spBoxStrobe1Width", "strobe", "Strobe1Width=1001");
+    table.row("cmBoxStrobe2Mode", "strobe", "Strobe2Mode=Enabled");
+    table.row("cmBoxStrobe2Ref", "strobe", "Strobe2Reference=ReadoutStart");
+    table.row("spBoxStrobe2Delay", "strobe", "Strobe2Delay=1");
+    table.row("spBoxStrobe2Width", "strobe", "Strobe2Width=1001");
+    table.row("cmBoxOut1Selector", "strobe", "OUT1Selector=Strobe1");
+    table.row("cmBoxOut1Polarity", "strobe", "OUT1Polarity=ActiveHigh");
+    table.row("cmBoxOut2Selector", "strobe", "OUT2Selector=Strobe1");
+    table.row("cmBoxOut2Polarity", "strobe", "OUT2Polarity=ActiveHigh");
+
+    table.row("cmBoxTaps", "output", "SensorADCBitDepth11=Taps4");
+    table.row("cmBoxDepth", "output", "SensorADCBitDepth=Bits12");
+    table.row("cmBoxPixelFormat", "output", "PixelFormat=BayerRG10");
+    table.row("chBoxEnableLut", "output", "LUTEnable=1");
+    table.row("cmBoxLut", "output", "LUTSelector=LUT2");
+    table.row("cmBoxDpc", "output", "DefectPixelCorrection=StaticDynamic");
+    table.row("spBoxDpcDynThres", "output", "DefectPixelThreshold=65");
+    table.row("cmBoxHpc", "output", "HotPixelCorrection=StaticDynamic");
+    table.row("spBoxHpcDynThres", "output", "HotPixelThreshold=65");
+    table.row("chBoxHorMirror", "output", "ReverseX=1");
+    table.row("chBoxVerMirror", "output", "ReverseY=1");
+    table.row("cmBoxTestMode", "output", "TestPattern=GreyHorizontalRamp");
+}
+
+void TestFeatureDialogs::writes_the_feature_of_a_control()
+{
+    QFETCH(QString, dialog);
+    QFETCH(QString, write);
+    DialogFixture fixture;
+    allowEverything(fixture.features());
+    const auto kind =
+        std::find_if(featureDialogs().begin(), featureDialogs().end(),
+                     [&](const DialogKind& each) { return dialog == QLatin1String(each.name); });
+    const auto shown = kind->make(&fixture.device());
+    shown->show();
+    edit(*shown, QString::fromLatin1(QTest::currentDataTag()));
+    QCOMPARE(fixture.takeWrites(), QStringList(write));
 }
 
 ZETO_TEST_MAIN(TestFeatureDialogs)

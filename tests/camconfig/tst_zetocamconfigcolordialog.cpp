@@ -2,7 +2,6 @@
 
 #include <ZetoCameraGuiApi/zetocamconfigcolordialog.h>
 
-#include "qtzetospinbox.h"
 #include "testmain.h"
 
 #include <QComboBox>
@@ -16,96 +15,89 @@ class TestZetoCamConfigColorDialog : public QObject
     Q_OBJECT
 
 private slots:
-    void sets_unity_data();
+    void init();
+    void cleanup();
+
     void sets_unity();
     void shows_statistics_live();
     void works_without_some_features();
+
+private:
+    void balance(const char* mode)
+    {
+        childOf<QComboBox>(*m_dialog, "cmBoxWhiteBalance").setCurrentText(QLatin1String(mode));
+    }
+    /// What the statistics tell of red, green and blue.
+    QString statistics() const;
+
+    std::unique_ptr<DialogFixture> m_fixture;
+    std::unique_ptr<ZetoGui::ZetoCamConfigColorDialog> m_dialog;
 };
 
-namespace {
-
-template <typename Widget>
-Widget* child(QDialog& dialog, const QString& name)
+void TestZetoCamConfigColorDialog::init()
 {
-    return dialog.findChild<Widget*>(name);
+    m_fixture = std::make_unique<DialogFixture>();
+    m_dialog = std::make_unique<ZetoGui::ZetoCamConfigColorDialog>(&m_fixture->device());
+    m_dialog->show();
 }
 
-/// What the statistics tell of red, green and blue.
-QString statistics(QDialog& dialog)
+void TestZetoCamConfigColorDialog::cleanup()
+{
+    m_dialog.reset();
+    m_fixture.reset();
+}
+
+QString TestZetoCamConfigColorDialog::statistics() const
 {
     QStringList texts;
     for (const char* const label : {"lblRedCoef", "lblGreenCoef", "lblBlueCoef"})
-        texts.append(child<QLabel>(dialog, QLatin1String(label))->text());
+        texts.append(childOf<QLabel>(*m_dialog, label).text());
     return texts.join(QLatin1Char(' '));
-}
-
-} // namespace
-
-void TestZetoCamConfigColorDialog::sets_unity_data()
-{
-    QTest::addColumn<QString>("colour");
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<QString>("after");
-    QTest::newRow("red") << "Red"
-                         << "11 12 13"
-                         << "256 12 13";
-    QTest::newRow("green") << "Green"
-                           << "11 12 13"
-                           << "11 256 13";
-    QTest::newRow("blue") << "Blue"
-                          << "11 12 13"
-                          << "11 12 256";
 }
 
 void TestZetoCamConfigColorDialog::sets_unity()
 {
-    QFETCH(QString, colour);
-    DialogFixture fixture;
-    ZetoGui::ZetoCamConfigColorDialog dialog(&fixture.device());
-    dialog.show();
     int coefficient = 11;
     for (const char* const feature : {"RedCoefficient", "GreenCoefficient", "BlueCoefficient"})
-        fixture.features().assign(feature, int64_t(coefficient++));
-    QTEST(statistics(dialog), "before");
-    auto* const button = child<QPushButton>(dialog, QStringLiteral("pushBtn%1Unity").arg(colour));
-    QTest::mouseClick(button, Qt::LeftButton);
-    QCOMPARE(fixture.takeWrites(), QStringList(colour + QLatin1String("Coefficient=256")));
-    QTEST(statistics(dialog), "after");
-
-    child<QComboBox>(dialog, QStringLiteral("cmBoxWhiteBalance"))
-        ->setCurrentText(QStringLiteral("Continuous"));
-    QVERIFY(!button->isEnabled());
-    dialog.SetDevice(nullptr);
-    QVERIFY(!dialog.isEnabled());
+        m_fixture->features().assign(feature, int64_t(coefficient++));
+    QCOMPARE(statistics(), QStringLiteral("11 12 13"));
+    const auto press = [this](const char* button) {
+        QTest::mouseClick(&childOf<QPushButton>(*m_dialog, button), Qt::LeftButton);
+        return m_fixture->takeWrites();
+    };
+    QCOMPARE(press("pushBtnGreenUnity"), QStringList("GreenCoefficient=256"));
+    QCOMPARE(statistics(), QStringLiteral("11 256 13"));
+    QCOMPARE(press("pushBtnRedUnity"), QStringList("RedCoefficient=256"));
+    QCOMPARE(press("pushBtnBlueUnity"), QStringList("BlueCoefficient=256"));
+    QCOMPARE(statistics(), QStringLiteral("256 256 256"));
+    balance("Continuous");
+    QVERIFY(!childOf<QPushButton>(*m_dialog, "pushBtnRedUnity").isEnabled());
 }
 
 void TestZetoCamConfigColorDialog::shows_statistics_live()
 {
-    DialogFixture fixture;
-    ZetoGui::ZetoCamConfigColorDialog dialog(&fixture.device());
-    dialog.show();
-    auto* const label = child<QLabel>(dialog, QStringLiteral("lblRedCoef"));
-    const int width = label->width();
-    QVERIFY(width >= label->fontMetrics().horizontalAdvance(QStringLiteral("4095")));
-    child<QComboBox>(dialog, QStringLiteral("cmBoxWhiteBalance"))->setCurrentText(QStringLiteral("Once"));
-    QCOMPARE(statistics(dialog), QStringLiteral("301 256 417"));
-    fixture.features().assign("RedCoefficient", int64_t(4095));
-    QCOMPARE(statistics(dialog), QStringLiteral("4095 256 417"));
-    QCOMPARE(label->width(), width);
-    QCOMPARE(fixture.takeWrites(), QStringList(QStringLiteral("BalanceWhiteAuto=Once")));
+    const auto& label = childOf<QLabel>(*m_dialog, "lblRedCoef");
+    const int width = label.width();
+    QVERIFY(width >= label.fontMetrics().horizontalAdvance(QStringLiteral("4095")));
+    balance("Once");
+    QCOMPARE(statistics(), QStringLiteral("301 256 417"));
+    m_fixture->features().assign("RedCoefficient", int64_t(4095));
+    QCOMPARE(statistics(), QStringLiteral("4095 256 417"));
+    QCOMPARE(label.width(), width);
+    QCOMPARE(m_fixture->takeWrites(), QStringList("BalanceWhiteAuto=Once"));
 }
 
 void TestZetoCamConfigColorDialog::works_without_some_features()
 {
-    DialogFixture fixture;
-    fixture.features().setAccessMode("AutoTrackingSpeed", GenApi::NI);
-    fixture.features().setAccessMode("GreenCoefficient", GenApi::NA);
-    ZetoGui::ZetoCamConfigColorDialog dialog(&fixture.device());
-    QVERIFY(!child<QWidget>(dialog, QStringLiteral("cmBoxTrackingSpeed"))->isEnabled());
-    QVERIFY(!child<QWidget>(dialog, QStringLiteral("pushBtnGreenUnity"))->isEnabled());
-    QVERIFY(child<QWidget>(dialog, QStringLiteral("pushBtnRedUnity"))->isEnabled());
-    child<QComboBox>(dialog, QStringLiteral("cmBoxWhiteBalance"))->setCurrentText(QStringLiteral("Once"));
-    QCOMPARE(fixture.takeWrites(), QStringList(QStringLiteral("BalanceWhiteAuto=Once")));
+    m_dialog->SetDevice(nullptr);
+    m_fixture->features().setAccessMode("AutoTrackingSpeed", GenApi::NI);
+    m_fixture->features().setAccessMode("GreenCoefficient", GenApi::NA);
+    m_dialog->SetDevice(&m_fixture->device());
+    QVERIFY(!childOf<QWidget>(*m_dialog, "cmBoxTrackingSpeed").isEnabled());
+    QVERIFY(!childOf<QWidget>(*m_dialog, "pushBtnGreenUnity").isEnabled());
+    QVERIFY(childOf<QWidget>(*m_dialog, "pushBtnRedUnity").isEnabled());
+    balance("Once");
+    QCOMPARE(m_fixture->takeWrites(), QStringList("BalanceWhiteAuto=Once"));
 }
 
 ZETO_TEST_MAIN(TestZetoCamConfigColorDialog)

@@ -34,10 +34,8 @@ private slots:
     void init();
     void cleanup();
 
-    void follows_the_camera_without_writing_data() { addKinds(); }
-    void follows_the_camera_without_writing();
-    void writes_an_edit_once_data() { addKinds(); }
-    void writes_an_edit_once();
+    void writes_edits_once_and_follows_the_camera_data() { addKinds(); }
+    void writes_edits_once_and_follows_the_camera();
     void reports_a_refusal_once_data() { addKinds(); }
     void reports_a_refusal_once();
     void disables_what_is_not_there_data() { addKinds(); }
@@ -51,7 +49,6 @@ private slots:
     void survives_any_fault_data() { addKinds(); }
     void survives_any_fault();
 
-    void shows_numbers_data();
     void shows_numbers();
     void converts_numbers();
     void shows_limits_that_move_without_writing_data() { addKinds("Level"); }
@@ -63,7 +60,6 @@ private slots:
     void enables_what_camera_and_rule_allow();
     void shows_entries_that_come_and_go();
     void leaves_ids_that_the_dialog_gave();
-    void checks_for_any_entry_but_0();
     void takes_the_first_tab_for_an_entry_without_one();
     void enables_companions_with_the_feature();
     void leaves_Qt_its_own_connections();
@@ -84,6 +80,9 @@ private:
     QObject* mapped(const MappedKind& kind);
     template <typename Widget>
     Widget* mappedInt();
+    ZetoGenParam::Int* level() { return m_camera->array().GetInt("Level", nullptr); }
+    ZetoGenParam::Enum* mode() { return m_camera->array().GetEnum("Mode", nullptr); }
+    ZetoGenParam::Boolean* switchFeature() { return m_camera->array().GetBoolean("Switch", nullptr); }
     ZetoNodeMap::NodeMap& features() { return m_camera->features(); }
     QStringList takeWrites() { return m_camera->faults().takeWrites(); }
 
@@ -141,27 +140,22 @@ template <typename Widget>
 Widget* TestZetoCamConfigMapper::mappedInt()
 {
     auto* const widget = new Widget(m_dialog.get());
-    m_mapper->MapInt(m_camera->array().GetInt("Level", nullptr), widget);
+    m_mapper->MapInt(level(), widget);
     m_dialog->show();
     return widget;
 }
 
-void TestZetoCamConfigMapper::follows_the_camera_without_writing()
+void TestZetoCamConfigMapper::writes_edits_once_and_follows_the_camera()
 {
     QObject* const widget = mapped(kind());
-    QCOMPARE(kind().shown(widget), QString::fromLatin1(kind().atFirst));
+    QCOMPARE(kind().shown(widget), kind().atFirst);
     QVERIFY(isEnabled(widget));
-    m_camera->change(kind());
-    QCOMPARE(kind().shown(widget), QString::fromLatin1(kind().afterChange));
-    QCOMPARE(takeWrites(), QStringList());
-}
-
-void TestZetoCamConfigMapper::writes_an_edit_once()
-{
-    QObject* const widget = mapped(kind());
     kind().edit(widget);
-    QCOMPARE(takeWrites(), QStringList(QString::fromLatin1(kind().written)));
-    QCOMPARE(kind().shown(widget), QString::fromLatin1(kind().afterEdit));
+    QCOMPARE(takeWrites(), QStringList(kind().written));
+    QCOMPARE(kind().shown(widget), kind().afterEdit);
+    m_camera->change(kind());
+    QCOMPARE(kind().shown(widget), kind().afterChange);
+    QCOMPARE(takeWrites(), QStringList());
 }
 
 void TestZetoCamConfigMapper::reports_a_refusal_once()
@@ -180,7 +174,7 @@ void TestZetoCamConfigMapper::reports_a_refusal_once()
                                               .arg(QLatin1String(kind().feature))));
     QCOMPARE(parent, m_dialog.get());
     QCOMPARE(title, QString());
-    QCOMPARE(kind().shown(widget), QString::fromLatin1(kind().afterEdit)); // until the camera tells better
+    QCOMPARE(kind().shown(widget), kind().afterEdit); // until the camera tells better
     QCOMPARE(takeWrites().size(), 1);
 }
 
@@ -198,7 +192,7 @@ void TestZetoCamConfigMapper::disables_what_is_not_there()
     features().setAccessMode(kind().feature, GenApi::RO);
     QVERIFY(!isEnabled(widget));
     m_camera->change(kind());
-    QCOMPARE(kind().shown(widget), QString::fromLatin1(kind().afterChange));
+    QCOMPARE(kind().shown(widget), kind().afterChange);
     QVERIFY(!isEnabled(widget));
 
     QVERIFY(!kind().map(*m_mapper, m_camera->array(), "Nothing", widget)); // nor shows what was
@@ -214,14 +208,14 @@ void TestZetoCamConfigMapper::binds_anew()
     QVERIFY(!isEnabled(first));
     QVERIFY(isEnabled(second));
     kind().edit(second);
-    QCOMPARE(takeWrites(), QStringList(QString::fromLatin1(kind().written)));
-    QCOMPARE(kind().shown(first), QString::fromLatin1(kind().atFirst));
+    QCOMPARE(takeWrites(), QStringList(kind().written));
+    QCOMPARE(kind().shown(first), kind().atFirst);
 
     QVERIFY(map(kind(), second)); // once more the same
     QVERIFY(isEnabled(second));
-    QCOMPARE(kind().shown(second), QString::fromLatin1(kind().afterEdit));
+    QCOMPARE(kind().shown(second), kind().afterEdit);
     m_camera->change(kind());
-    QCOMPARE(kind().shown(second), QString::fromLatin1(kind().afterChange));
+    QCOMPARE(kind().shown(second), kind().afterChange);
     QCOMPARE(takeWrites(), QStringList());
 }
 
@@ -231,7 +225,7 @@ void TestZetoCamConfigMapper::lets_go()
     m_mapper->Clear(&m_camera->array());
     QVERIFY(!isEnabled(widget));
     m_camera->change(kind());
-    QCOMPARE(kind().shown(widget), QString::fromLatin1(kind().atFirst));
+    QCOMPARE(kind().shown(widget), kind().atFirst);
     QVERIFY(!isEnabled(widget));
     const QList<QWidget*> widgets = m_dialog->findChildren<QWidget*>();
     for (QWidget* const each : widgets)
@@ -272,8 +266,7 @@ void TestZetoCamConfigMapper::survives_any_fault()
     use();
     const int calls = m_camera->faults().calls();
     QVERIFY(calls > 20);
-    for (const int code : {0, -40001, -40002, -40003, -40004, -40005, -40006, -40007, -40051, -40101, -40200,
-                           -40201, -40202, -40203, -40204, -40205, -40206, -1}) {
+    for (const int code : {0, -40006, -40202, -40204, -1}) {
         for (int call = 0; call < calls; ++call) {
             m_camera->faults().failAt(call, code);
             use();
@@ -289,43 +282,27 @@ void TestZetoCamConfigMapper::survives_any_fault()
     QVERIFY(!takeWrites().isEmpty());
 }
 
-void TestZetoCamConfigMapper::shows_numbers_data()
-{
-    QTest::addColumn<qint64>("least");
-    QTest::addColumn<qint64>("most");
-    QTest::addColumn<qint64>("increment");
-    QTest::addColumn<qint64>("value");
-    QTest::addColumn<QString>("shown");
-    const auto row = [](const char* name, qint64 least, qint64 most, qint64 step, qint64 value,
-                        const char* shown) {
-        QTest::newRow(name) << least << most << step << value << QString::fromLatin1(shown);
-    };
-    row("plain", -5, 100, 3, 7, "-5..100/3 7");
-    row("beyond the limit", 0, 5'000'000'000, 1, 4'000'000'000, "0..2147483647/1 2147483647");
-    row("no increment", 0, 10, 0, 4, "0..10/1 4");
-    row("increment without lower bits", 0, 10, 1LL << 32, 4, "0..10/1 4");
-    row("minimum without its upper bits", -4'294'967'297, 10, 1, 4, "-1..10/1 4");
-    row("all there is", std::numeric_limits<qint64>::min(), std::numeric_limits<qint64>::max(), 1, 4,
-        "0..2147483647/1 4");
-}
-
 void TestZetoCamConfigMapper::shows_numbers()
 {
-    QFETCH(qint64, least);
-    QFETCH(qint64, most);
-    QFETCH(qint64, increment);
-    QFETCH(qint64, value);
-    features().assign("LevelMin", least);
-    features().assign("LevelMax", most);
-    features().assign("LevelStep", increment);
-    features().assign("Level", value);
     const auto* const box = mappedInt<QSpinBox>();
-    const QString shown = QStringLiteral("%1..%2/%3 %4")
-                              .arg(box->minimum())
-                              .arg(box->maximum())
-                              .arg(box->singleStep())
-                              .arg(box->value());
-    QTEST(shown, "shown");
+    const auto shown = [&](int64_t least, int64_t most, int64_t increment, int64_t value) {
+        features().assign("LevelMin", least);
+        features().assign("LevelMax", most);
+        features().assign("LevelStep", increment);
+        features().assign("Level", value);
+        return QStringLiteral("%1..%2/%3 %4")
+            .arg(box->minimum())
+            .arg(box->maximum())
+            .arg(box->singleStep())
+            .arg(box->value());
+    };
+    QCOMPARE(shown(-5, 100, 3, 7), "-5..100/3 7");
+    QCOMPARE(shown(0, 5'000'000'000, 1, 4'000'000'000), "0..2147483647/1 2147483647");
+    QCOMPARE(shown(0, 10, 0, 4), "0..10/1 4");
+    QCOMPARE(shown(0, 10, 1LL << 32, 4), "0..10/1 4");
+    QCOMPARE(shown(-4'294'967'297, 10, 1, 4), "-1..10/1 4"); // without its upper bits
+    QCOMPARE(shown(std::numeric_limits<int64_t>::min(), std::numeric_limits<int64_t>::max(), 1, 4),
+             "0..2147483647/1 4");
     QCOMPARE(takeWrites(), QStringList());
 }
 
@@ -336,13 +313,13 @@ void TestZetoCamConfigMapper::converts_numbers()
         int64_t ToWidget(int64_t value, ZetoGenParam::Int*) override { return value * 10; }
         int64_t FromWidget(int64_t value, ZetoGenParam::Int*) override { return value / 10; }
     } tens;
-    auto* const box = new QtZetoSliderSpinBox(m_dialog.get());
-    QVERIFY(m_mapper->MapInt(m_camera->array().GetInt("Level", nullptr), box, &tens));
-    QCOMPARE(box->value(), 100);
-    QCOMPARE(box->maximum(), 1000);
-    QCOMPARE(box->singleStep(), 10);
-    box->setValue(250);
-    QCOMPARE(takeWrites(), QStringList(QStringLiteral("Level=25")));
+    QtZetoSliderSpinBox box(m_dialog.get());
+    QVERIFY(m_mapper->MapInt(level(), &box, &tens));
+    QCOMPARE(box.value(), 100);
+    QCOMPARE(box.maximum(), 1000);
+    QCOMPARE(box.singleStep(), 10);
+    box.setValue(250);
+    QCOMPARE(takeWrites(), QStringList("Level=25"));
 }
 
 /// Also when that clamps what the widget shows.
@@ -366,7 +343,7 @@ void TestZetoCamConfigMapper::shows_what_the_camera_made_of_a_write()
     QObject* const widget = mapped(kind());
     m_camera->roundsTo = 8;
     kind().edit(widget);
-    QCOMPARE(takeWrites(), QStringList(QString::fromLatin1(kind().written)));
+    QCOMPARE(takeWrites(), QStringList(kind().written));
     const int taken = QString::fromLatin1(kind().afterEdit).toInt() / 8 * 8;
     QCOMPARE(kind().shown(widget), QString::number(taken));
 }
@@ -375,14 +352,14 @@ void TestZetoCamConfigMapper::runs_rules_on_a_refresh_but_writes_none_of_it()
 {
     auto* const box = mappedInt<QSpinBox>();
     auto* const checkBox = new QCheckBox(m_dialog.get());
-    m_mapper->MapBoolean(m_camera->array().GetBoolean("Switch", nullptr), checkBox);
+    m_mapper->MapBoolean(switchFeature(), checkBox);
     QStringList told;
     connect(box, qOverload<int>(&QSpinBox::valueChanged), this, [&](int value) {
         told.append(QString::number(value));
         checkBox->setChecked(value > 50);
     });
     features().assign("Level", int64_t(60));
-    QCOMPARE(told, QStringList(QStringLiteral("60")));
+    QCOMPARE(told, QStringList("60"));
     QVERIFY(checkBox->isChecked());
     QCOMPARE(takeWrites(), QStringList());
 }
@@ -390,13 +367,13 @@ void TestZetoCamConfigMapper::runs_rules_on_a_refresh_but_writes_none_of_it()
 void TestZetoCamConfigMapper::writes_what_the_dialog_sets()
 {
     mappedInt<QtZetoSpinBox>()->setValue(30);
-    QCOMPARE(takeWrites(), QStringList(QStringLiteral("Level=30")));
+    QCOMPARE(takeWrites(), QStringList("Level=30"));
     mappedInt<QLineEdit>()->setText(QStringLiteral("31"));
-    QCOMPARE(takeWrites(), QStringList(QStringLiteral("Level=31")));
+    QCOMPARE(takeWrites(), QStringList("Level=31"));
     auto* const button = new QCheckBox(m_dialog.get());
-    m_mapper->MapBoolean(m_camera->array().GetBoolean("Switch", nullptr), button);
+    m_mapper->MapBoolean(switchFeature(), button);
     button->setChecked(true);
-    QCOMPARE(takeWrites(), QStringList(QStringLiteral("Switch=1")));
+    QCOMPARE(takeWrites(), QStringList("Switch=1"));
 }
 
 void TestZetoCamConfigMapper::enables_what_camera_and_rule_allow()
@@ -440,10 +417,10 @@ void TestZetoCamConfigMapper::leaves_ids_that_the_dialog_gave()
     QButtonGroup group;
     for (const int id : {4, 0, 1})
         group.addButton(new QRadioButton(m_dialog.get()), id);
-    m_mapper->MapEnum(m_camera->array().GetEnum("Mode", nullptr), &group);
+    m_mapper->MapEnum(mode(), &group);
     QCOMPARE(group.checkedId(), 0);
     group.buttons()[0]->click();
-    QCOMPARE(takeWrites(), QStringList(QStringLiteral("Mode=Auto")));
+    QCOMPARE(takeWrites(), QStringList("Mode=Auto"));
     m_mapper->Clear(&m_camera->array());
     QCOMPARE(group.id(group.buttons()[0]), 4);
 
@@ -454,17 +431,6 @@ void TestZetoCamConfigMapper::leaves_ids_that_the_dialog_gave()
     m_mapper->Clear(&m_camera->array());
 }
 
-void TestZetoCamConfigMapper::checks_for_any_entry_but_0()
-{
-    QCheckBox box(m_dialog.get());
-    m_mapper->MapEnum(m_camera->array().GetEnum("Mode", nullptr), &box);
-    features().assign("Mode", std::string("Auto"));
-    QVERIFY(box.isChecked());
-    box.click();
-    box.click();
-    QCOMPARE(takeWrites(), QStringList({QStringLiteral("Mode=Off"), QStringLiteral("Mode=On")}));
-}
-
 void TestZetoCamConfigMapper::takes_the_first_tab_for_an_entry_without_one()
 {
     QTabWidget tabs(m_dialog.get());
@@ -473,14 +439,14 @@ void TestZetoCamConfigMapper::takes_the_first_tab_for_an_entry_without_one()
     m_mapper->TabIndex(QStringLiteral("Mode"), QStringLiteral("On")) = 2;
     m_mapper->TabIndex(QStringLiteral("Mode"), QStringLiteral("Auto")) = 0;
     features().assign("Mode", std::string("On"));
-    m_mapper->MapEnum(m_camera->array().GetEnum("Mode", nullptr), &tabs);
+    m_mapper->MapEnum(mode(), &tabs);
     QCOMPARE(tabs.currentIndex(), 2);
     features().assign("Mode", std::string("Off"));
     QCOMPARE(tabs.currentIndex(), 0);
     tabs.setCurrentIndex(1); // no entry stands for it
     QCOMPARE(takeWrites(), QStringList());
     tabs.setCurrentIndex(0);
-    QCOMPARE(takeWrites(), QStringList(QStringLiteral("Mode=Auto")));
+    QCOMPARE(takeWrites(), QStringList("Mode=Auto"));
 }
 
 void TestZetoCamConfigMapper::enables_companions_with_the_feature()
@@ -491,7 +457,7 @@ void TestZetoCamConfigMapper::enables_companions_with_the_feature()
     QVector<QWidget*> companions = {&first, &second};
     QVERIFY(!m_mapper->MapInt(nullptr, &box, companions));
     QVERIFY(!first.isEnabled() && !second.isEnabled());
-    QVERIFY(m_mapper->MapInt(m_camera->array().GetInt("Level", nullptr), &box, companions));
+    QVERIFY(m_mapper->MapInt(level(), &box, companions));
     QVERIFY(first.isEnabled() && second.isEnabled());
     features().setAccessMode("Level", GenApi::RO);
     QVERIFY(!first.isEnabled() && !second.isEnabled());
@@ -505,7 +471,7 @@ void TestZetoCamConfigMapper::leaves_Qt_its_own_connections()
     bool destroyed = false;
     connect(box.get(), qOverload<int>(&QSpinBox::valueChanged), this, [&] { changed = true; });
     connect(box.get(), &QObject::destroyed, this, [&] { destroyed = true; });
-    m_mapper->MapInt(m_camera->array().GetInt("Level", nullptr), box.get());
+    m_mapper->MapInt(level(), box.get());
     box->setValue(50);
     QVERIFY(!changed);
     box.reset();
@@ -564,11 +530,11 @@ void TestZetoCamConfigMapper::binds_and_lets_go_while_another_thread_writes()
     });
     QSpinBox box(m_dialog.get());
     for (int round = 0; round < 200; ++round) {
-        m_mapper->MapInt(m_camera->array().GetInt("Level", nullptr), &box);
+        m_mapper->MapInt(level(), &box);
         QCoreApplication::processEvents();
         m_mapper->Clear(&m_camera->array());
     }
-    m_mapper->MapInt(m_camera->array().GetInt("Level", nullptr), &box);
+    m_mapper->MapInt(level(), &box);
     stop = true;
     writer.join();
     QCoreApplication::processEvents();

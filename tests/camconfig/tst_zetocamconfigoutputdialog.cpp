@@ -25,12 +25,6 @@ private slots:
 
 namespace {
 
-template <typename Widget>
-Widget* child(QDialog& dialog, const char* name)
-{
-    return dialog.findChild<Widget*>(QLatin1String(name));
-}
-
 /// The sizes that a widget is given.
 class Sizes : public QObject
 {
@@ -57,8 +51,8 @@ void TestZetoCamConfigOutputDialog::has_taps_only_of_their_own_feature()
     DialogFixture fixture;
     fixture.features().setAccessMode("SensorADCBitDepth11", GenApi::NI);
     ZetoCamConfigOutputDialog dialog(&fixture.device());
-    QVERIFY(!child<QComboBox>(dialog, "cmBoxTaps")->isEnabled());
-    QVERIFY(child<QComboBox>(dialog, "cmBoxDepth")->isEnabled());
+    QVERIFY(!childOf<QComboBox>(dialog, "cmBoxTaps").isEnabled());
+    QVERIFY(childOf<QComboBox>(dialog, "cmBoxDepth").isEnabled());
     QVERIFY(!dialog.windowIcon().availableSizes().isEmpty());
 }
 
@@ -67,22 +61,22 @@ void TestZetoCamConfigOutputDialog::offers_what_the_camera_allows()
 {
     DialogFixture fixture;
     ZetoCamConfigOutputDialog dialog(&fixture.device());
-    auto* const format = child<QComboBox>(dialog, "cmBoxPixelFormat");
-    const auto isOffered = [format](const char* entry) {
-        const QModelIndex index = format->model()->index(format->findText(QLatin1String(entry)), 0);
+    const auto& format = childOf<QComboBox>(dialog, "cmBoxPixelFormat");
+    const auto isOffered = [&format](const char* entry) {
+        const QModelIndex index = format.model()->index(format.findText(QLatin1String(entry)), 0);
         return index.flags().testFlag(Qt::ItemIsEnabled);
     };
     QVERIFY(isOffered("BayerRG10"));
-    child<QComboBox>(dialog, "cmBoxDepth")->setCurrentText(QStringLiteral("Bits10"));
+    childOf<QComboBox>(dialog, "cmBoxDepth").setCurrentText(QStringLiteral("Bits10"));
     QVERIFY(!isOffered("BayerRG12"));
-    child<QComboBox>(dialog, "cmBoxDepth")->setCurrentText(QStringLiteral("Bits12"));
+    childOf<QComboBox>(dialog, "cmBoxDepth").setCurrentText(QStringLiteral("Bits12"));
     QVERIFY(isOffered("BayerRG12"));
 
-    const auto* const threshold = child<QtZetoSpinBox>(dialog, "spBoxHpcDynThres");
-    QVERIFY(!threshold->isEnabled());
-    child<QComboBox>(dialog, "cmBoxHpc")->setCurrentText(QStringLiteral("Dynamic"));
-    QVERIFY(threshold->isEnabled());
-    QVERIFY(!child<QtZetoSpinBox>(dialog, "spBoxDpcDynThres")->isEnabled());
+    const auto& threshold = childOf<QtZetoSpinBox>(dialog, "spBoxHpcDynThres");
+    QVERIFY(!threshold.isEnabled());
+    childOf<QComboBox>(dialog, "cmBoxHpc").setCurrentText(QStringLiteral("Dynamic"));
+    QVERIFY(threshold.isEnabled());
+    QVERIFY(!childOf<QtZetoSpinBox>(dialog, "spBoxDpcDynThres").isEnabled());
 }
 
 /// Each time it is shown; the layout then makes it usable again.
@@ -90,16 +84,16 @@ void TestZetoCamConfigOutputDialog::exchanges_width_and_height_of_the_thresholds
 {
     DialogFixture fixture;
     ZetoCamConfigOutputDialog dialog(&fixture.device());
-    const auto* const threshold = child<QtZetoSpinBox>(dialog, "spBoxDpcDynThres");
-    Sizes sizes(threshold->spinBox());
+    const auto& threshold = childOf<QtZetoSpinBox>(dialog, "spBoxDpcDynThres");
+    Sizes sizes(threshold.spinBox());
     for (int i = 0; i < 2; ++i) {
         dialog.show();
-        const QSize hint = threshold->sizeHint();
-        const QSize exchanged(hint.height(), hint.width() - threshold->button()->width());
+        const QSize hint = threshold.sizeHint();
+        const QSize exchanged(hint.height(), hint.width() - threshold.button()->width());
         QVERIFY(sizes.take().contains(exchanged));
         QCoreApplication::processEvents();
-        QVERIFY(threshold->rect().contains(threshold->spinBox()->geometry()));
-        QVERIFY(threshold->spinBox()->width() > threshold->spinBox()->height());
+        QVERIFY(threshold.rect().contains(threshold.spinBox()->geometry()));
+        QVERIFY(threshold.spinBox()->width() > threshold.spinBox()->height());
         dialog.hide();
         sizes.take();
     }

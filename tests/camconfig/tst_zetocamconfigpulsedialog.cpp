@@ -15,18 +15,15 @@
 
 #include <limits>
 
-using ZetoGui::ZetoCamConfigPulseDialog;
-
 /// What the pulse dialog derives from the settings, and its lamp.
 class TestZetoCamConfigPulseDialog : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void init() { m_fixture = std::make_unique<DialogFixture>(); }
-    void cleanup() { m_fixture.reset(); }
+    void init();
+    void cleanup();
 
-    void derives_delay_and_frequency_data();
     void derives_delay_and_frequency();
     void shows_what_follows_from_period_and_width();
     void chooses_the_mode();
@@ -35,144 +32,128 @@ private slots:
     void has_a_square_lamp();
 
 private:
+    QString text(const char* lineEdit) const { return childOf<QLineEdit>(*m_dialog, lineEdit).text(); }
+    /// The lamp's colour and the text of the button.
+    QString shownState() const;
+
     std::unique_ptr<DialogFixture> m_fixture;
+    std::unique_ptr<ZetoGui::ZetoCamConfigPulseDialog> m_dialog;
 };
 
-namespace {
-
-template <typename Widget>
-Widget* child(QDialog& dialog, const char* name)
+void TestZetoCamConfigPulseDialog::init()
 {
-    return dialog.findChild<Widget*>(QLatin1String(name));
+    m_fixture = std::make_unique<DialogFixture>();
+    m_dialog = std::make_unique<ZetoGui::ZetoCamConfigPulseDialog>(&m_fixture->device());
 }
 
-QString text(QDialog& dialog, const char* lineEdit)
+void TestZetoCamConfigPulseDialog::cleanup()
 {
-    return child<QLineEdit>(dialog, lineEdit)->text();
+    m_dialog.reset();
+    m_fixture.reset();
 }
 
-/// The lamp's colour and the text of the button.
-QString shownState(QDialog& dialog)
+QString TestZetoCamConfigPulseDialog::shownState() const
 {
-    const QImage lamp = child<QLabel>(dialog, "lblPulseEnable")->pixmap(Qt::ReturnByValue).toImage();
+    const QImage lamp = childOf<QLabel>(*m_dialog, "lblPulseEnable").pixmap(Qt::ReturnByValue).toImage();
     const QColor centre = lamp.pixelColor(lamp.rect().center());
-    return (centre.green() > centre.red() ? QStringLiteral("green ") : QStringLiteral("red ")) +
-           child<QPushButton>(dialog, "pushBtnPulseEnable")->text();
-}
-
-} // namespace
-
-void TestZetoCamConfigPulseDialog::derives_delay_and_frequency_data()
-{
-    QTest::addColumn<int>("period");
-    QTest::addColumn<int>("width");
-    QTest::addColumn<QString>("expected");
-    const auto row = [](const char* name, int period, int width, const char* expected) {
-        QTest::newRow(name) << period << width << QString::fromLatin1(expected);
-    };
-    constexpr int least = std::numeric_limits<int>::min();
-    constexpr int most = std::numeric_limits<int>::max();
-    row("plain", 1000, 250, "750 1000.000000");
-    row("no period", 0, 0, "0 0.000000");
-    row("shortest", 1, 1, "0 1000000.000000");
-    row("width beyond the period", 3, 10, "-7 333333.333333");
-    row("longest", most, 0, "2147483647 0.000466");
-    row("farthest apart", most, least, "4294967295 0.000466");
-    row("the other way", least, most, "-4294967295 -0.000466");
+    return (centre.green() > centre.red() ? "green " : "red ") +
+           childOf<QPushButton>(*m_dialog, "pushBtnPulseEnable").text();
 }
 
 void TestZetoCamConfigPulseDialog::derives_delay_and_frequency()
 {
-    QFETCH(int, period);
-    QFETCH(int, width);
-    const QString derived =
-        ZetoGui::pulseDelayText(period, width) + QLatin1Char(' ') + ZetoGui::pulseFrequencyText(period);
-    QTEST(derived, "expected");
+    const auto derived = [](int period, int width) -> QString {
+        return ZetoGui::pulseDelayText(period, width) + ' ' + ZetoGui::pulseFrequencyText(period);
+    };
+    constexpr int least = std::numeric_limits<int>::min();
+    constexpr int most = std::numeric_limits<int>::max();
+    QCOMPARE(derived(1000, 250), "750 1000.000000");
+    QCOMPARE(derived(0, 0), "0 0.000000");
+    QCOMPARE(derived(1, 1), "0 1000000.000000");
+    QCOMPARE(derived(3, 10), "-7 333333.333333");
+    QCOMPARE(derived(most, 0), "2147483647 0.000466");
+    QCOMPARE(derived(most, least), "4294967295 0.000466");
+    QCOMPARE(derived(least, most), "-4294967295 -0.000466");
 }
 
 /// By hand and by the camera, which shortens the width with the period.
 void TestZetoCamConfigPulseDialog::shows_what_follows_from_period_and_width()
 {
-    ZetoCamConfigPulseDialog dialog(&m_fixture->device());
-    QCOMPARE(child<QLabel>(dialog, "lblPeriod")->text(), QStringLiteral("Period [\u03bcs]:"));
-    QCOMPARE(text(dialog, "lineEditDelay"), QStringLiteral("750"));
-    QCOMPARE(text(dialog, "lineEditFreq"), QStringLiteral("1000.000000"));
+    QCOMPARE(childOf<QLabel>(*m_dialog, "lblPeriod").text(), u8"Period [\u03bcs]:");
+    QCOMPARE(text("lineEditDelay"), "750");
+    QCOMPARE(text("lineEditFreq"), "1000.000000");
     m_fixture->features().assign("PulseGenPeriod", int64_t(200));
-    QCOMPARE(text(dialog, "lineEditFreq"), QStringLiteral("5000.000000"));
+    QCOMPARE(text("lineEditFreq"), "5000.000000");
     QCOMPARE(m_fixture->takeWrites(), QStringList());
     m_fixture->features().assign("PulseGenGranularity", int64_t(4)); // changes no display
-    QCOMPARE(text(dialog, "lineEditFreq"), QStringLiteral("5000.000000"));
+    QCOMPARE(text("lineEditFreq"), "5000.000000");
 
-    auto* const width = child<QWidget>(dialog, "spBoxWidth");
-    dialog.show();
-    QTest::keyClick(width->focusProxy(), Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClicks(width->focusProxy(), QStringLiteral("150"));
-    QTest::keyClick(width->focusProxy(), Qt::Key_Return);
-    QCOMPARE(text(dialog, "lineEditDelay"), QStringLiteral("50"));
-    QCOMPARE(m_fixture->takeWrites(), QStringList(QStringLiteral("PulseGenWidth=150")));
+    auto& width = childOf<QWidget>(*m_dialog, "spBoxWidth");
+    m_dialog->show();
+    QTest::keyClick(width.focusProxy(), Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(width.focusProxy(), QStringLiteral("150"));
+    QTest::keyClick(width.focusProxy(), Qt::Key_Return);
+    QCOMPARE(text("lineEditDelay"), "50");
+    QCOMPARE(m_fixture->takeWrites(), QStringList("PulseGenWidth=150"));
 
     DialogFixture plain("sim.u3v0.plain");
-    dialog.SetDevice(&plain.device());
-    QVERIFY(!child<QLineEdit>(dialog, "lineEditDelay")->isEnabled());
-    QVERIFY(!child<QLineEdit>(dialog, "lineEditFreq")->isEnabled());
-    dialog.SetDevice(nullptr);
+    m_dialog->SetDevice(&plain.device());
+    QVERIFY(!childOf<QLineEdit>(*m_dialog, "lineEditDelay").isEnabled());
+    QVERIFY(!childOf<QLineEdit>(*m_dialog, "lineEditFreq").isEnabled());
+    m_dialog->SetDevice(nullptr);
 }
 
 void TestZetoCamConfigPulseDialog::chooses_the_mode()
 {
-    ZetoCamConfigPulseDialog dialog(&m_fixture->device());
-    QVERIFY(child<QRadioButton>(dialog, "radioBtnContinious")->isChecked());
-    QVERIFY(!child<QWidget>(dialog, "spBoxNumPulses")->isEnabled());
-    child<QRadioButton>(dialog, "radioBtnSend")->click();
+    QVERIFY(childOf<QRadioButton>(*m_dialog, "radioBtnContinious").isChecked());
+    QVERIFY(!childOf<QWidget>(*m_dialog, "spBoxNumPulses").isEnabled());
+    childOf<QRadioButton>(*m_dialog, "radioBtnSend").click();
     QCOMPARE(m_fixture->features().text("PulseGenMode"), std::string("NumPulses"));
-    QVERIFY(child<QWidget>(dialog, "spBoxNumPulses")->isEnabled());
+    QVERIFY(childOf<QWidget>(*m_dialog, "spBoxNumPulses").isEnabled());
 }
 
 void TestZetoCamConfigPulseDialog::starts_and_stops()
 {
-    ZetoCamConfigPulseDialog dialog(&m_fixture->device());
-    auto* const button = child<QPushButton>(dialog, "pushBtnPulseEnable");
+    auto& button = childOf<QPushButton>(*m_dialog, "pushBtnPulseEnable");
     const QKeySequence shortcut(QStringLiteral("Ctrl+Shift+S, Ctrl+Shift+S"));
-    QCOMPARE(shownState(dialog), QStringLiteral("red Start"));
-    button->click();
-    QCOMPARE(shownState(dialog), QStringLiteral("green Stop"));
-    QCOMPARE(button->shortcut(), shortcut);
+    QCOMPARE(shownState(), "red Start");
+    button.click();
+    QCOMPARE(shownState(), "green Stop");
+    QCOMPARE(button.shortcut(), shortcut);
     QCOMPARE(m_fixture->features().integer("PulseGenEnable"), int64_t(1));
-    button->click();
-    QCOMPARE(shownState(dialog), QStringLiteral("red Start"));
-    QCOMPARE(button->shortcut(), shortcut);
+    button.click();
+    QCOMPARE(shownState(), "red Start");
+    QCOMPARE(button.shortcut(), shortcut);
 
     GenApi::CBooleanPtr(m_fixture->features().GetNode("PulseGenEnable"))->SetValue(true);
-    QCOMPARE(shownState(dialog), QStringLiteral("green Stop"));
+    QCOMPARE(shownState(), "green Stop");
     DialogFixture other;
-    dialog.SetDevice(&other.device());
-    QCOMPARE(shownState(dialog), QStringLiteral("red Start"));
-    button->click();
+    m_dialog->SetDevice(&other.device());
+    QCOMPARE(shownState(), "red Start");
+    button.click();
     DialogFixture plain("sim.u3v0.plain"); // has no generator
-    dialog.SetDevice(&plain.device());
-    QCOMPARE(shownState(dialog), QStringLiteral("red Start"));
-    QCOMPARE(text(dialog, "lineEditFreq"), QStringLiteral("0.000000"));
-    dialog.SetDevice(nullptr);
+    m_dialog->SetDevice(&plain.device());
+    QCOMPARE(shownState(), "red Start");
+    QCOMPARE(text("lineEditFreq"), "0.000000");
+    m_dialog->SetDevice(nullptr);
 }
 
 void TestZetoCamConfigPulseDialog::stays_red_when_the_camera_refuses()
 {
     MessageBoxes boxes;
-    ZetoCamConfigPulseDialog dialog(&m_fixture->device());
     m_fixture->refuseNextWrite(ZetoCam::ErrorInvalidState);
-    child<QPushButton>(dialog, "pushBtnPulseEnable")->click();
+    childOf<QPushButton>(*m_dialog, "pushBtnPulseEnable").click();
     QCOMPARE(boxes.take().size(), 1);
-    QCOMPARE(shownState(dialog), QStringLiteral("red Start"));
-    QCOMPARE(m_fixture->takeWrites(), QStringList(QStringLiteral("PulseGenEnable=1")));
+    QCOMPARE(shownState(), "red Start");
+    QCOMPARE(m_fixture->takeWrites(), QStringList("PulseGenEnable=1"));
 }
 
 void TestZetoCamConfigPulseDialog::has_a_square_lamp()
 {
-    ZetoCamConfigPulseDialog dialog(&m_fixture->device());
-    dialog.show();
-    const QSize lamp = child<QLabel>(dialog, "lblPulseEnable")->size();
+    m_dialog->show();
+    const QSize lamp = childOf<QLabel>(*m_dialog, "lblPulseEnable").size();
     QCOMPARE(lamp.width(), lamp.height());
-    QCOMPARE(lamp.height(), child<QPushButton>(dialog, "pushBtnPulseEnable")->height());
+    QCOMPARE(lamp.height(), childOf<QPushButton>(*m_dialog, "pushBtnPulseEnable").height());
 }
 
 ZETO_TEST_MAIN(TestZetoCamConfigPulseDialog)

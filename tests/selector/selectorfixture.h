@@ -1,5 +1,6 @@
 #pragma once
 
+#include "childof.h"
 #include "devicetreemodel.h"
 #include "infoview.h"
 #include "simulatorfixture.h"
@@ -12,12 +13,6 @@
 #include <QVector>
 
 #include <functional>
-
-template <typename Child>
-Child& childOf(const QWidget& parent, const char* name)
-{
-    return *parent.findChild<Child*>(QLatin1String(name));
-}
 
 /// The ids of all rows that were fetched, cameras in brackets behind their interface: "gev(a b) usb".
 QString idsOf(const DeviceTreeModel& model, const QModelIndex& parent = QModelIndex());
@@ -46,6 +41,16 @@ public:
     QString ids() const { return idsOf(model()); }
 
     ZetoGui::ZetoCameraSelectorDialog dialog;
+};
+
+/// A selector with the standard cameras.
+class StandardSelector : public SimulatorFixture, public Selector
+{
+public:
+    explicit StandardSelector(bool poll = false)
+        : Selector(&system(), poll)
+    {
+    }
 };
 
 /// Name and value of all lines, "Vendor=Zeto|Model=...".

@@ -50,8 +50,7 @@ private slots:
     void givesTextsAndObjects();
     void findsFetchedRowsById();
     void showsNothingWithoutInterfaces();
-    void showsChangesWhenTheyAreApplied();
-    void refreshes();
+    void showsChangesWhenAppliedOrRefreshed();
     void comparesIdentitiesInOrder();
     void staysConsistentThroughRandomSteps();
     void refusesNodeWithoutModel();
@@ -59,14 +58,14 @@ private slots:
 
 void TestDeviceTreeModel::fetchesLazily()
 {
-    SimulatorFixture hardware(SimulatorSetup::standard());
+    SimulatorFixture hardware;
     DeviceTreeModel model(&hardware.system());
     const QSignalSpy inserted(&model, &DeviceTreeModel::rowsInserted);
     QCOMPARE(model.rowCount(), 0);
     QVERIFY(model.hasChildren() && model.canFetchMore(QModelIndex()));
 
     model.fetchMore(QModelIndex());
-    QCOMPARE(idsOf(model), QStringLiteral("sim.gev0 sim.gev1 sim.u3v0 sim.cl0"));
+    QCOMPARE(idsOf(model), "sim.gev0 sim.gev1 sim.u3v0 sim.cl0");
     QVERIFY(!model.canFetchMore(QModelIndex()));
     model.fetchMore(model.index(0, 0));
     QCOMPARE(model.rowCount(model.index(0, 0)), 5);
@@ -82,17 +81,17 @@ void TestDeviceTreeModel::fetchesLazily()
 
 void TestDeviceTreeModel::givesTextsAndObjects()
 {
-    SimulatorFixture hardware(SimulatorSetup::standard());
+    SimulatorFixture hardware;
     DeviceTreeModel model(&hardware.system());
     fetchAll(model);
     const QModelIndex row = model.index(0, 0);
     const QModelIndex camera = model.index(4, 0, row);
-    QCOMPARE(row.data().toString(), QStringLiteral("GigE Vision: simulated adapter 192.168.10.1"));
+    QCOMPARE(row.data().toString(), "GigE Vision: simulated adapter 192.168.10.1");
     QVERIFY(camera.data().toString().startsWith(QString::fromUtf8("K\xc3\xa4mer\xc3\xa4 \xe6\x97\xa5")));
     QCOMPARE(camera.data(Qt::UserRole).value<ZetoCam::DeviceInfo*>(), hardware.camera("sim.gev0.awkward"));
     QCOMPARE(row.data(Qt::UserRole).value<ZetoCam::Interface*>(), hardware.interfaces().front());
     QVERIFY(!row.data(Qt::ToolTipRole).isValid());
-    QCOMPARE(model.headerData(0, Qt::Horizontal).toString(), QStringLiteral("Name"));
+    QCOMPARE(model.headerData(0, Qt::Horizontal).toString(), "Name");
     QVERIFY(!model.headerData(0, Qt::Vertical).isValid());
     QCOMPARE(model.flags(camera), Qt::ItemIsSelectable | Qt::ItemIsEnabled);
     QCOMPARE(model.flags(QModelIndex()), Qt::NoItemFlags);
@@ -100,7 +99,7 @@ void TestDeviceTreeModel::givesTextsAndObjects()
 
 void TestDeviceTreeModel::findsFetchedRowsById()
 {
-    SimulatorFixture hardware(SimulatorSetup::standard());
+    SimulatorFixture hardware;
     DeviceTreeModel model(&hardware.system());
     QVERIFY(!model.firstIndex().isValid());
     model.fetchMore(QModelIndex());
@@ -126,9 +125,9 @@ void TestDeviceTreeModel::showsNothingWithoutInterfaces()
     }
 }
 
-void TestDeviceTreeModel::showsChangesWhenTheyAreApplied()
+void TestDeviceTreeModel::showsChangesWhenAppliedOrRefreshed()
 {
-    SimulatorFixture hardware(SimulatorSetup::standard());
+    SimulatorFixture hardware;
     DeviceTreeModel model(&hardware.system());
     const QSignalSpy reset(&model, &DeviceTreeModel::modelReset);
     fetchAll(model);
@@ -145,21 +144,16 @@ void TestDeviceTreeModel::showsChangesWhenTheyAreApplied()
     fetchAll(model);
     QCOMPARE(idsOf(model), listedBy(hardware));
     QVERIFY(!model.hasChanged());
-}
 
-void TestDeviceTreeModel::refreshes()
-{
-    SimulatorFixture hardware(SimulatorSetup::standard());
-    DeviceTreeModel model(&hardware.system());
     hardware.control().setCameraPlugged("sim.u3v0.wanderer", true);
     model.refresh();
     fetchAll(model);
-    QVERIFY(model.indexOf(QStringLiteral("sim.u3v0.wanderer")).isValid());
+    QVERIFY(model.indexOf("sim.u3v0.wanderer").isValid());
 }
 
 void TestDeviceTreeModel::comparesIdentitiesInOrder()
 {
-    SimulatorFixture hardware(SimulatorSetup::standard());
+    SimulatorFixture hardware;
     const CameraSnapshot found = scanCameras(&hardware.system());
     QVERIFY(listSameCameras(found, found));
     const auto differsWhen = [&found](const std::function<void(CameraSnapshot&)>& change) {
@@ -178,7 +172,7 @@ void TestDeviceTreeModel::comparesIdentitiesInOrder()
 
 void TestDeviceTreeModel::staysConsistentThroughRandomSteps()
 {
-    SimulatorFixture hardware(SimulatorSetup::standard());
+    SimulatorFixture hardware;
     DeviceTreeModel model(&hardware.system());
     const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
     QRandomGenerator random(20240229);

@@ -7,8 +7,6 @@
 #include <atomic>
 #include <thread>
 
-using ZetoSimulator::SimulatorSetup;
-
 namespace {
 
 /// Plugs and unplugs on a thread of its own until it is destroyed.
@@ -66,11 +64,10 @@ private slots:
 
 void TestSelectorThreads::followsThousandsOfEvents()
 {
-    SimulatorFixture hardware(SimulatorSetup::standard());
-    Selector selector(&hardware.system(), true);
+    StandardSelector selector(true);
     selector.dialog.show();
     {
-        const Hand hand(hardware.control());
+        const Hand hand(selector.control());
         for (int round = 0; round < 200 || hand.count() < 2000; ++round) {
             selector.polling().click(); // every second time a new search begins at once
             selector.tree().setCurrentIndex(selector.tree().indexBelow(selector.tree().currentIndex()));
@@ -81,7 +78,7 @@ void TestSelectorThreads::followsThousandsOfEvents()
         selector.polling().click();
     selector.polling().click();
     const auto isCurrent = [&] {
-        DeviceTreeModel fresh(&hardware.system());
+        DeviceTreeModel fresh(&selector.system());
         fresh.fetchMore(QModelIndex());
         for (int row = 0; row < fresh.rowCount(); ++row)
             fresh.fetchMore(fresh.index(row, 0));
@@ -92,7 +89,7 @@ void TestSelectorThreads::followsThousandsOfEvents()
 
 void TestSelectorThreads::handsSnapshotsOver()
 {
-    SimulatorFixture hardware(SimulatorSetup::standard());
+    SimulatorFixture hardware;
     DeviceTreeModel model(&hardware.system());
     const Hand hand(hardware.control());
     std::atomic<bool> isChanged{false};
@@ -119,7 +116,7 @@ void TestSelectorThreads::handsSnapshotsOver()
 
 void TestSelectorThreads::closesAtAnyTime()
 {
-    SimulatorFixture hardware(SimulatorSetup::standard());
+    SimulatorFixture hardware;
     const Hand hand(hardware.control());
     for (int round = 0; round < 100; ++round) {
         Selector selector(&hardware.system(), true);

@@ -11,8 +11,6 @@
 #include <QtTest>
 
 using ZetoSimulator::ipv4;
-using ZetoSimulator::SimulatorSetup;
-
 namespace {
 
 const QString green = QStringLiteral("color: rgb(0, 192, 0);");
@@ -96,27 +94,27 @@ private slots:
 void TestSetIp::checksWhileTyping()
 {
     SetIpDialog dialog;
-    QCOMPARE(statusOf(dialog), QStringLiteral("TextLabel"));
+    QCOMPARE(statusOf(dialog), "TextLabel");
     dialog.setNicIPAddress(ipv4(192, 168, 10, 1));
     dialog.setNicNetmask(ipv4(255, 255, 255, 0));
     dialog.setIPAddress(ipv4(192, 168, 10, 2));
-    QCOMPARE(statusOf(dialog), QStringLiteral("Subnet mask mismatch!"));
+    QCOMPARE(statusOf(dialog), "Subnet mask mismatch!");
     dialog.setNetmask(ipv4(255, 255, 255, 0));
-    QCOMPARE(statusOf(dialog), QStringLiteral("IP Configuration OK"));
+    QCOMPARE(statusOf(dialog), "IP Configuration OK");
     QCOMPARE(childOf<QLabel>(dialog, "ipStatusLabel").styleSheet(), green);
 
     dialog.show();
     QVERIFY(QTest::qWaitForWindowActive(&dialog));
-    pressKeys(QStringLiteral("End Backspace"));
-    QCOMPARE(statusOf(dialog), QStringLiteral("IP Configuration OK")); // 192.168.10.0, which nobody forbids
-    pressKeys(QStringLiteral("'1"));
-    QCOMPARE(statusOf(dialog), QStringLiteral("Incorrect IP address!"));
+    pressKeys("End Backspace");
+    QCOMPARE(statusOf(dialog), "IP Configuration OK"); // 192.168.10.0, which nobody forbids
+    pressKeys("'1");
+    QCOMPARE(statusOf(dialog), "Incorrect IP address!");
     QCOMPARE(childOf<QLabel>(dialog, "ipStatusLabel").styleSheet(), red);
     QVERIFY(!dialog.isIpValid() && dialog.isMaskValid());
-    enter(dialog, "ipAddressLineEdit", QStringLiteral("10.0.0.7"));
-    QCOMPARE(statusOf(dialog), QStringLiteral("Subnet IP mismatch!"));
-    enter(dialog, "subnetMaskLineEdit", QStringLiteral("255.0.0.0"));
-    QCOMPARE(statusOf(dialog), QStringLiteral("Subnet mask mismatch!"));
+    enter(dialog, "ipAddressLineEdit", "10.0.0.7");
+    QCOMPARE(statusOf(dialog), "Subnet IP mismatch!");
+    enter(dialog, "subnetMaskLineEdit", "255.0.0.0");
+    QCOMPARE(statusOf(dialog), "Subnet mask mismatch!");
     QVERIFY(!dialog.isIpValid() && !dialog.isMaskValid());
     QCOMPARE(dialog.ipAddress(), ipv4(10, 0, 0, 7));
     QCOMPARE(dialog.netmask(), ipv4(255, 0, 0, 0));
@@ -127,7 +125,7 @@ void TestSetIp::takesAddressesOnly()
     SetIpDialog dialog;
     for (const char* name : {"ipAddressLineEdit", "subnetMaskLineEdit", "defaultGatewayLineEdit"}) {
         enter(dialog, name, QStringLiteral("1x9a2.168.300.7.5.8-"));
-        QCOMPARE(fieldOf(dialog, name).text(), QStringLiteral("192.168.30.75"));
+        QCOMPARE(fieldOf(dialog, name).text(), "192.168.30.75");
     }
     QCOMPARE(dialog.gateway(), ipv4(192, 168, 30, 75));
     dialog.setMACAddress(0x02005e0aabcd);
@@ -144,13 +142,12 @@ void TestSetIp::isUsableByKeysAlone()
     dialog.show();
     QVERIFY(QTest::qWaitForWindowActive(&dialog));
     QCOMPARE(QApplication::focusWidget(), &fieldOf(dialog, "ipAddressLineEdit"));
-    pressKeys(
-        QStringLiteral("'10.0.0.2 Tab '255.0.0.0 Tab '10.0.0.1 Alt+A '10.0.0.3 Alt+G End Backspace '9"));
+    pressKeys("'10.0.0.2 Tab '255.0.0.0 Tab '10.0.0.1 Alt+A '10.0.0.3 Alt+G End Backspace '9");
     QCOMPARE(dialog.ipAddress(), ipv4(10, 0, 0, 3));
     QCOMPARE(dialog.gateway(), ipv4(10, 0, 0, 9));
-    pressKeys(QStringLiteral("Alt+S"));
+    pressKeys("Alt+S");
     QCOMPARE(QApplication::focusWidget(), &fieldOf(dialog, "subnetMaskLineEdit"));
-    pressKeys(QStringLiteral("Return"));
+    pressKeys("Return");
     QCOMPARE(dialog.result(), int{QDialog::Accepted});
 }
 
@@ -167,12 +164,11 @@ void TestSetIp::alignsFieldsOfBothGroups()
 
 void TestSetIp::bringsCameraIntoReach()
 {
-    SimulatorFixture hardware(SimulatorSetup::standard());
-    Selector selector(&hardware.system(), false);
+    StandardSelector selector;
     selector.show();
     selector.select("sim.gev0.foreign");
     const ModalScript script({[](QDialog& dialog) {
-        QCOMPARE(statusOf(dialog), QStringLiteral("IP Configuration OK"));
+        QCOMPARE(statusOf(dialog), "IP Configuration OK");
         QStringList texts;
         for (const char* name :
              {"nicMacLineEdit", "nicIpLineEdit", "nicSubnetMaskLineEdit", "macAddressLineEdit",
@@ -181,12 +177,12 @@ void TestSetIp::bringsCameraIntoReach()
         QCOMPARE(texts.join(QLatin1Char(' ')),
                  QStringLiteral("02:00:5E:0A:00:01 192.168.10.1 255.255.255.0 02:00:5E:0A:00:11 "
                                 "192.168.10.2 255.255.255.0 0.0.0.0"));
-        enter(dialog, "ipAddressLineEdit", QStringLiteral("192.168.10.77"));
+        enter(dialog, "ipAddressLineEdit", "192.168.10.77");
         accept(dialog);
     }});
     selector.setIp().click();
     QVERIFY(script.isDone());
-    QCOMPARE(hardware.camera("sim.gev0.foreign")->GetIPAddress(), ipv4(192, 168, 10, 77));
+    QCOMPARE(selector.camera("sim.gev0.foreign")->GetIPAddress(), ipv4(192, 168, 10, 77));
     QVERIFY(linesOf(selector.cameraInfo()).contains(QLatin1String("IP Address=192.168.10.77")));
     QVERIFY(linesOf(selector.cameraInfo()).contains(QLatin1String("Access status=ReadWrite")));
     QVERIFY(selector.ok().isEnabled());
@@ -194,28 +190,26 @@ void TestSetIp::bringsCameraIntoReach()
 
 void TestSetIp::writesNothingWhenCancelled()
 {
-    SimulatorFixture hardware(SimulatorSetup::standard());
-    Selector selector(&hardware.system(), false);
+    StandardSelector selector;
     selector.select("sim.gev0.foreign");
     const ModalScript script({[](QDialog& dialog) { press(dialog, QDialogButtonBox::Cancel); }});
     selector.setIp().click();
     QVERIFY(script.isDone());
-    QCOMPARE(hardware.camera("sim.gev0.foreign")->GetIPAddress(), ipv4(10, 0, 0, 7));
+    QCOMPARE(selector.camera("sim.gev0.foreign")->GetIPAddress(), ipv4(10, 0, 0, 7));
 }
 
 void TestSetIp::asksBeforeBadConfiguration()
 {
-    SimulatorFixture hardware(SimulatorSetup::standard());
-    Selector selector(&hardware.system(), false);
+    StandardSelector selector;
     selector.select("sim.gev0.foreign");
     const auto enterBad = [](QDialog& dialog) {
-        enter(dialog, "ipAddressLineEdit", QStringLiteral("10.0.0.9"));
+        enter(dialog, "ipAddressLineEdit", "10.0.0.9");
         accept(dialog);
     };
     const ModalScript skipping({enterBad, warning(QDialogButtonBox::Ok)});
     selector.setIp().click();
     QVERIFY(skipping.isDone());
-    QCOMPARE(hardware.camera("sim.gev0.foreign")->GetIPAddress(), ipv4(10, 0, 0, 7));
+    QCOMPARE(selector.camera("sim.gev0.foreign")->GetIPAddress(), ipv4(10, 0, 0, 7));
 
     const ModalScript confirming({enterBad, warning(QDialogButtonBox::Ignore)});
     selector.setIp().click();
@@ -226,15 +220,14 @@ void TestSetIp::asksBeforeBadConfiguration()
 
 void TestSetIp::tellsRefusal()
 {
-    SimulatorFixture hardware(SimulatorSetup::standard());
-    Selector selector(&hardware.system(), false);
+    StandardSelector selector;
     selector.select("sim.gev0.held");
     const ModalScript held({accept, failure});
     selector.setIp().click();
     QVERIFY(held.isDone());
 
-    hardware.control().setCameraPlugged("sim.gev0.held", false);
-    hardware.search();
+    selector.control().setCameraPlugged("sim.gev0.held", false);
+    selector.search();
     const ModalScript gone({failure});
     selector.setIp().click();
     QVERIFY(gone.isDone());
@@ -242,13 +235,13 @@ void TestSetIp::tellsRefusal()
 
 void TestSetIp::survivesItsParent()
 {
-    SimulatorFixture hardware(SimulatorSetup::standard());
+    SimulatorFixture hardware;
     std::unique_ptr<Selector> selector;
     const auto takeDown = [&selector](QDialog&) { selector.reset(); };
     const QVector<QVector<ModalScript::Action>> scripts = {
         {takeDown},
         {[](QDialog& dialog) {
-             enter(dialog, "ipAddressLineEdit", QStringLiteral("10.0.0.9"));
+             enter(dialog, "ipAddressLineEdit", "10.0.0.9");
              accept(dialog);
          },
          takeDown},

@@ -12,7 +12,8 @@
 class SimulatorFixture
 {
 public:
-    explicit SimulatorFixture(const ZetoSimulator::SimulatorSetup& setup)
+    explicit SimulatorFixture(
+        const ZetoSimulator::SimulatorSetup& setup = ZetoSimulator::SimulatorSetup::standard())
         : m_simulator(new ZetoSimulator::Simulator(m_system, setup))
     {
         m_system.add(std::unique_ptr<ZetoCameraLibrary::CameraBackend>(m_simulator));
