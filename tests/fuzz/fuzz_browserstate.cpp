@@ -3,11 +3,9 @@
 #include <ZetoCameraGuiApi/zetogenparamtreeview.h>
 
 #include "featuretree.h"
+#include "fuzztarget.h"
 #include "nodemapbuilder.h"
 
-#include <QApplication>
-
-#include <cstdlib>
 #include <stdexcept>
 
 namespace {
@@ -17,12 +15,6 @@ std::unique_ptr<ZetoNodeMap::NodeMap> makeNodeMap()
     ZetoNodeMap::NodeMapBuilder builder;
     ZetoNodeMap::declareFeatureTree(builder, 60);
     return builder.build();
-}
-
-void require(bool condition)
-{
-    if (!condition)
-        std::abort();
 }
 
 /// \return false for a text that is refused, which must leave the view as it was
@@ -35,7 +27,7 @@ bool load(ZetoGui::ZetoGenParamTreeView& view, const QByteArray& state)
     } catch (const std::invalid_argument&) {
     } catch (const std::out_of_range&) {
     }
-    require(before == view.saveState());
+    require(before == view.saveState(), "a refused state changes nothing");
     return false;
 }
 
@@ -50,16 +42,6 @@ QByteArray withDelimiters(QByteArray input)
 
 } // namespace
 
-extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv);
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size);
-
-int LLVMFuzzerInitialize(int* argc, char*** argv)
-{
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    static const QApplication application(*argc, *argv);
-    return 0;
-}
-
 int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
     static const auto nodeMap = makeNodeMap();
@@ -67,9 +49,10 @@ int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 
     const QByteArray input(reinterpret_cast<const char*>(data), static_cast<int>(size));
     if (load(view, withDelimiters(input))) {
-        require(load(view, QByteArray(view.saveState()))); // the splitter settles on sizes that it can have
+        // The splitter settles on sizes that it can have.
+        require(load(view, QByteArray(view.saveState())), "a saved state is taken");
         const QByteArray saved = view.saveState();
-        require(load(view, saved) && saved == view.saveState());
+        require(load(view, saved) && saved == view.saveState(), "a saved state is restored");
     }
     return 0;
 }

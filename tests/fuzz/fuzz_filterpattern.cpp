@@ -1,13 +1,10 @@
 // Random patterns, case, whole-word and level settings for the browser's filter.
 
 #include "featuretree.h"
+#include "fuzztarget.h"
 #include "genparamtreemodel.h"
 #include "genparamtreevisibilityfilterproxymodel.h"
 #include "nodemapbuilder.h"
-
-#include <QApplication>
-
-#include <cstdlib>
 
 namespace {
 
@@ -29,23 +26,7 @@ int rowCount(const QAbstractItemModel& model, const QModelIndex& parent = {})
     return rows;
 }
 
-void require(bool condition)
-{
-    if (!condition)
-        std::abort();
-}
-
 } // namespace
-
-extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv);
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size);
-
-int LLVMFuzzerInitialize(int* argc, char*** argv)
-{
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    static const QApplication application(*argc, *argv);
-    return 0;
-}
 
 int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
@@ -58,19 +39,19 @@ int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     GenParamTreeVisibilityFilterProxyModel proxy;
     proxy.setSourceModel(&model);
     proxy.setFilterVisibility(GenApi::Guru);
-    require(rowCount(proxy) == allRows);
+    require(rowCount(proxy) == allRows, "an empty pattern hides nothing");
 
     const int settings = data[0];
     proxy.setNameCaseSensitivity(settings & 1 ? Qt::CaseSensitive : Qt::CaseInsensitive);
     proxy.setWholeWord(settings & 2);
     proxy.setFilterText(
         QString::fromUtf8(reinterpret_cast<const char*>(data + 1), static_cast<int>(size - 1)));
-    require(rowCount(proxy) <= allRows);
+    require(rowCount(proxy) <= allRows, "a pattern adds nothing");
     proxy.setFilterVisibility((settings >> 2) % 3);
-    require(proxy.rowCount() == model.rowCount()); // a category stays, whatever the pattern
+    require(proxy.rowCount() == model.rowCount(), "a category stays, whatever the pattern");
 
     proxy.setFilterText(QString());
     proxy.setFilterVisibility(GenApi::Guru);
-    require(rowCount(proxy) == allRows);
+    require(rowCount(proxy) == allRows, "an empty pattern hides nothing");
     return 0;
 }

@@ -1,13 +1,12 @@
 // Random settings, texts, keys and steps against the 64-bit spin box and its validator.
 
+#include "fuzztarget.h"
 #include "int64validator.h"
 #include "qtzetospinboxval64.h"
 
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
-
-#include <cstdlib>
 
 namespace {
 
@@ -41,14 +40,6 @@ private:
     QByteArray m_bytes;
     int m_position = 0;
 };
-
-void require(bool condition, const char* what)
-{
-    if (condition)
-        return;
-    qCritical("violated: %s", what);
-    std::abort();
-}
 
 void checkValidator(Input& input)
 {
@@ -137,17 +128,6 @@ void checkSpinBox(Input& input)
 }
 
 } // namespace
-
-extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv);
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size);
-
-int LLVMFuzzerInitialize(int* argc, char*** argv)
-{
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QLocale::setDefault(QLocale::c());
-    static const QApplication application(*argc, *argv);
-    return 0;
-}
 
 int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {

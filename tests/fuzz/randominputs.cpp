@@ -1,12 +1,10 @@
 // Feeds a fuzz target random inputs, the same in every run, where libFuzzer is not there to do it.
 
-#include <cstdint>
+#include "fuzztarget.h"
+
 #include <cstdio>
 #include <random>
 #include <vector>
-
-extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv);
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size);
 
 int main(int argc, char** argv)
 {

@@ -5,12 +5,10 @@
 
 #include <QElapsedTimer>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QtTest>
 
-#include <atomic>
 #include <thread>
 
 using ZetoGui::ZetoGenParamTreeView;
@@ -71,14 +69,12 @@ class TestBrowserRefresh : public QObject
 
 private slots:
     void takesAnyPollingTime();
-    void refreshesWhenIdle();
     void readsWhatIsOnScreen_data();
     void readsWhatIsOnScreen();
     void restsWhileNobodyLooks();
     void followsTheCamera();
     void tellsTheElapsedTime();
     void survivesEveryFault();
-    void letsGoOfCamerasInUse();
 };
 
 void TestBrowserRefresh::takesAnyPollingTime()
@@ -96,15 +92,6 @@ void TestBrowserRefresh::takesAnyPollingTime()
         view.enablePolling(on);
         QCOMPARE(view.isPollingEnabled(), on);
     }
-}
-
-void TestBrowserRefresh::refreshesWhenIdle()
-{
-    Browser browser;
-    Traffic traffic;
-    traffic.watch(*browser.camera);
-    browser.view.enablePolling(true);
-    QTRY_VERIFY(traffic.polls >= 3);
 }
 
 void TestBrowserRefresh::readsWhatIsOnScreen_data()
@@ -221,47 +208,6 @@ void TestBrowserRefresh::survivesEveryFault()
         faults.throwRandomly(0.3, seed);
         browse(*camera, seed % 2);
     }
-}
-
-void TestBrowserRefresh::letsGoOfCamerasInUse()
-{
-    auto camera = makeCamera(100);
-    auto other = makeCamera(100);
-    std::atomic<bool> isOver{false};
-    const auto write = [&isOver](NodeMap& nodeMap) {
-        for (int i = 0; !isOver; ++i)
-            nodeMap.assign("Feature" + std::to_string(i % 100), i);
-    };
-    std::thread writer([&] { write(*camera); });
-    std::thread otherWriter([&] { write(*other); });
-    auto view = std::make_unique<ZetoGenParamTreeView>();
-    view->show();
-    view->enablePolling(true);
-    for (int round = 0; round < 60; ++round) {
-        view->setParams(round % 2 ? camera.get() : other.get());
-        view->treeView()->expandAll();
-        view->findChild<QLineEdit*>("filterLineEdit")->setText(QString::number(round % 7));
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 1);
-        if (round % 3 == 0)
-            view->clearParams();
-        if (round % 10 == 0) {
-            view = std::make_unique<ZetoGenParamTreeView>(camera.get());
-            view->show();
-        }
-    }
-    // The camera may go as soon as it is not shown any more, with all else still under way.
-    view->setParams(other.get());
-    isOver = true;
-    writer.join();
-    otherWriter.join();
-    camera.reset();
-    other->assign("Feature1", 4711);
-    view->findChild<QLineEdit*>("filterLineEdit")->clear();
-    const QAbstractItemModel& model = *view->treeView()->model();
-    QTRY_COMPARE(model.index(1, 1, model.index(0, 0)).data().toString(), QStringLiteral("4711"));
-    view->clearParams();
-    other.reset();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 ZETO_TEST_MAIN(TestBrowserRefresh)

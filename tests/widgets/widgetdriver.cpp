@@ -1,9 +1,10 @@
 #include "widgetdriver.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QKeySequence>
 #include <QSlider>
-#include <QStyleOptionSlider>
+#include <QStyleOption>
 #include <QWheelEvent>
 #include <QtTest>
 
@@ -26,6 +27,22 @@ QPoint handleAt(QSlider* slider, int position)
     return style->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, slider).center();
 }
 
+QPoint upArrowOf(QWidget* spinBox)
+{
+    QStyleOptionSpinBox option;
+    option.initFrom(spinBox);
+    option.subControls = QStyle::SC_All;
+    const QStyle* const style = spinBox->style();
+    return style->subControlRect(QStyle::CC_SpinBox, &option, QStyle::SC_SpinBoxUp, spinBox).center();
+}
+
+/// Where a person presses to change the value.
+QPoint gripOf(QWidget* target)
+{
+    auto* const slider = qobject_cast<QSlider*>(target);
+    return slider ? handleAt(slider, slider->sliderPosition()) : upArrowOf(target);
+}
+
 void turnWheel(QWidget* target, int notches)
 {
     const QPointF position = target->rect().center();
@@ -35,7 +52,7 @@ void turnWheel(QWidget* target, int notches)
 }
 
 /// QTest::mouseMove() holds no button.
-void dragTo(QSlider* slider, const QPoint& position)
+void dragTo(QWidget* slider, const QPoint& position)
 {
     QMouseEvent event(QEvent::MouseMove, position, slider->mapToGlobal(position), Qt::NoButton,
                       Qt::LeftButton, Qt::NoModifier);
@@ -46,6 +63,26 @@ void pressKey(QWidget* target, int keyAndModifiers)
 {
     QTest::keyClick(target, Qt::Key(keyAndModifiers & ~int(Qt::KeyboardModifierMask)),
                     Qt::KeyboardModifiers(keyAndModifiers & int(Qt::KeyboardModifierMask)));
+}
+
+/// Presses ('+'), releases ('-') or repeats ('*') a key.
+void holdKey(QWidget* target, QChar how, const QString& key)
+{
+    const auto type = how == QLatin1Char('-') ? QEvent::KeyRelease : QEvent::KeyPress;
+    QKeyEvent event(type, QKeySequence::fromString(key)[0], {}, QString(), how == QLatin1Char('*'));
+    QApplication::sendEvent(target, &event);
+}
+
+void paste(QWidget* target, const QString& text)
+{
+    QGuiApplication::clipboard()->setText(text);
+    QTest::keySequence(target, QKeySequence::Paste);
+}
+
+void lookAtAnotherWindow()
+{
+    QWidget other;
+    QVERIFY(showActive(&other));
 }
 
 QWidget* part(QWidget* widget, const QString& name)
@@ -62,20 +99,28 @@ QWidget* part(QWidget* widget, const QString& name)
 
 void doOne(QWidget* target, const QString& word)
 {
-    auto* const slider = qobject_cast<QSlider*>(target);
+    const QString action = word.section(QLatin1Char(':'), 0, 0);
     const QString argument = word.section(QLatin1Char(':'), 1);
-    if (word.startsWith(QLatin1String("type:")))
+    if (action == QLatin1String("type"))
         QTest::keyClicks(target, argument);
-    else if (word == QLatin1String("wheel+") || word == QLatin1String("wheel-"))
-        turnWheel(target, word.endsWith(QLatin1Char('+')) ? 1 : -1);
-    else if (word == QLatin1String("click"))
+    else if (action == QLatin1String("paste"))
+        paste(target, argument);
+    else if (action == QLatin1String("value"))
+        target->setProperty("value", argument);
+    else if (action == QLatin1String("wheel+") || action == QLatin1String("wheel-"))
+        turnWheel(target, action.endsWith(QLatin1Char('+')) ? 1 : -1);
+    else if (action == QLatin1String("click"))
         QTest::mouseClick(target, Qt::LeftButton);
-    else if (word == QLatin1String("press"))
-        QTest::mousePress(target, Qt::LeftButton, {}, handleAt(slider, slider->sliderPosition()));
-    else if (word.startsWith(QLatin1String("drag:")))
-        dragTo(slider, handleAt(slider, argument.toInt()));
-    else if (word == QLatin1String("release"))
-        QTest::mouseRelease(target, Qt::LeftButton, {}, handleAt(slider, slider->sliderPosition()));
+    else if (action == QLatin1String("press"))
+        QTest::mousePress(target, Qt::LeftButton, {}, gripOf(target));
+    else if (action == QLatin1String("drag"))
+        dragTo(target, handleAt(qobject_cast<QSlider*>(target), argument.toInt()));
+    else if (action == QLatin1String("release"))
+        QTest::mouseRelease(target, Qt::LeftButton, {}, gripOf(target));
+    else if (action == QLatin1String("otherWindow"))
+        lookAtAnotherWindow();
+    else if (QStringLiteral("+-*").contains(word.front()))
+        holdKey(target, word.front(), word.mid(1));
     else
         pressKey(target, QKeySequence::fromString(word)[0]);
 }

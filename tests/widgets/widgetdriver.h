@@ -30,8 +30,11 @@ private:
 
 /// Does to the parts of \a widget what a person does, one word after the other:
 /// "@name" gives the focus to the child of that name, or to the inner slider for "@slider", and drives it
-/// from here on; "type:42" types; "wheel+" and "wheel-" turn the wheel one notch; "press", "drag:40" and
-/// "release" hold the slider's handle at a position; "click" clicks with the mouse; any other word is a key.
+/// from here on; "type:42" types and "paste:42" pastes; "wheel+" and "wheel-" turn the wheel one notch;
+/// "press", "drag:40" and "release" hold the slider's handle at a position, or "press" and "release" the up
+/// arrow of a spin box; "click" clicks with the mouse; "otherWindow" looks at another window; "+Up", "*Up"
+/// and
+/// "-Up" press, repeat and release a key; any other word is a key. "value:42" is what a program does.
 void drive(QWidget* widget, const QString& script);
 
 /// A row of a data table: how a widget is set up, what is done to it and what the log then says.
