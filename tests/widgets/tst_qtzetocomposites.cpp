@@ -133,15 +133,11 @@ void TestQtZetoComposites::sliderSpinBox_data()
         {"spin box keys", "", "@spinbox Up Up", "value 91, value 92, 92=92@201"},
         {"typed value beside the scale", "", "@spinbox Ctrl+A type:985",
          "value 9, value 98, value 985, 985=985@300"},
-        {"Enter is no change", "", "@spinbox Return Enter", "90=90@200"},
         {"wheel", "", "@slider wheel+ @spinbox wheel-", "value 97, value 96, 96=96@203"},
         {"a drag tells its end", "", "@slider press drag:250 drag:280 release", "value 621, 621=621@280"},
-        {"a drag that goes on tells nothing", "", "@slider press drag:250 drag:280", "90=621@280"},
         {"a drag back tells the value again", "", "@slider press drag:280 drag:200 release",
          "value 90, 90=90@200"},
         {"a press alone tells nothing", "", "@slider press release", "90=90@200"},
-        {"keys after a drag", "", "@slider press drag:280 release Right",
-         "value 621, value 636, 636=636@281"},
     });
 }
 
@@ -164,7 +160,6 @@ void TestQtZetoComposites::gainSlider_data()
          "value 2, value 2.3, value 2.34, value 2.345, 2.345=2.345@23"},
         {"a drag tells all the while", "", "@slider press drag:20 drag:30 release",
          "value 2, value 3, 3=3@30"},
-        {"the end", "", "@slider End End", "value 4.2, 4.2=4.2@42"},
         {"rounding makes no second change", "", "@slider Home Right Right Right",
          "value 0, value 0.1, value 0.2, value 0.3, 0.3=0.3@3"},
     });
@@ -190,7 +185,6 @@ void TestQtZetoComposites::spinBox_data()
     // 50 in [0, 100]; camera: as a feature is bound, told on release and by Enter; at last what both hold and
     // the position
     addScripts({
-        {"spin box keys", "", "@spinbox Up Up Down", "value 51, value 52, value 51, 51=51@51"},
         {"typing", "", "@spinbox Ctrl+A type:78", "value 7, value 78, 78=78@78"},
         {"popup keys", "", "@button Space @slider Right End", "value 51, value 100, 100=100@100"},
         {"popup drag", "", "@button Space @slider press drag:70 drag:30 release",
@@ -202,7 +196,6 @@ void TestQtZetoComposites::spinBox_data()
          "value 70, 70=70@70"},
         {"typing, told by Enter", "camera", "@spinbox Ctrl+A type:78 Return Return", "value 78, 78=78@78"},
         {"typing, lost with the focus", "camera", "@spinbox Ctrl+A type:78 Tab", "50=50@50"},
-        {"opening and closing", "camera", "@button Space @slider Escape", "50=50@50"},
     });
 }
 

@@ -91,14 +91,7 @@ void TestSliderScale::holdsForAnyRange()
     QRandomGenerator random(20180329);
     for (int i = 0; i < 20000; ++i) {
         const SliderScale scale = anyScale(random);
-        const QByteArray what = QStringLiteral("mode %1 [%2, %3] step %4 snap %5 scale %6")
-                                    .arg(scale.mode)
-                                    .arg(scale.minimum)
-                                    .arg(scale.maximum)
-                                    .arg(scale.singleStep)
-                                    .arg(scale.snapToStep)
-                                    .arg(scale.logScale)
-                                    .toLatin1();
+        const QByteArray what = QByteArray::number(i);
         const auto inRange = [&scale](int value) { return value >= scale.minimum && value <= scale.maximum; };
         const auto [low, high] = std::minmax(
             {anyOf(random, scale.minimum, scale.maximum), anyOf(random, scale.minimum, scale.maximum)});
@@ -163,12 +156,7 @@ void TestSliderScale::doubleGridHoldsForAnyRange()
         grid.maximum = maximum;
         grid.singleStep = anyDouble();
         grid.snapToStep = random.bounded(2) == 1;
-        const QByteArray what = QStringLiteral("[%1, %2] step %3 snap %4")
-                                    .arg(minimum)
-                                    .arg(maximum)
-                                    .arg(grid.singleStep)
-                                    .arg(grid.snapToStep)
-                                    .toLatin1();
+        const QByteArray what = QByteArray::number(i);
         QVERIFY2(grid.valueAt(grid.positionOf(minimum)) == minimum, what);
         QVERIFY2(grid.valueAt(grid.positionOf(maximum)) == maximum, what);
         const int last = grid.lastPosition();
