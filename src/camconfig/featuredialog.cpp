@@ -4,6 +4,7 @@
 #include "featuretooltip.h"
 #include "screenfit.h"
 
+#include <QAbstractSpinBox>
 #include <QKeyEvent>
 #include <QLayout>
 #include <QPushButton>
@@ -52,13 +53,15 @@ void FeatureDialog::describe()
     });
 }
 
-/// Escape closes the window as its frame does: QDialog would only hide it. It finds its place when it is
-/// shown, by its size.
+/// Escape closes the window as its frame does: QDialog would only hide it. What is half typed is given up. A
+/// window finds its place when it is shown, by its size.
 bool FeatureDialog::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Show && !event->spontaneous())
         fitToScreen(*dialog);
     if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->matches(QKeySequence::Cancel)) {
+        if (auto* const field = qobject_cast<QAbstractSpinBox*>(dialog->focusWidget()))
+            field->setProperty("value", field->property("value"));
         dialog->close();
         return true;
     }

@@ -423,11 +423,13 @@ void TestZetoCamConfigFrameABDialog::leaves_what_is_half_typed_at_its_frame()
     assign(QStringLiteral("FrameAB_Selector=FrameA"));
     typeInto("spBoxDualVideo", "1700", Qt::Key_unknown);
     assign(QStringLiteral("FrameMode=FrameA"));
-    for (const char* const field : {"spBoxDigitalGain", "spBoxBlackLevel"}) {
+    for (const auto& [field, end] : {std::pair("spBoxDigitalGain", Qt::Key_unknown),
+                                     {"spBoxBlackLevel", Qt::Key_unknown},
+                                     {"spBoxExpTime", Qt::Key_Escape}}) {
         m_dialog = std::make_unique<ZetoGui::ZetoCamConfigFrameABDialog>(&m_fixture->device());
         m_dialog->show();
         QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
-        typeInto(field, "20", Qt::Key_unknown);
+        typeInto(field, "20", end);
         m_dialog.reset();
     }
     QCOMPARE(takeWrites(), QStringList());
