@@ -27,6 +27,12 @@ protected:
     {
         return m_watch(name) ? failure : call();
     }
+    const char* text(const char* name, const char* value) const { return m_watch(name) ? nullptr : value; }
+    template <typename Number>
+    Number number(const char* name, Number value) const
+    {
+        return m_watch(name) ? Number{0} : value;
+    }
 
     const Watch& m_watch;
 };
@@ -65,10 +71,7 @@ public:
         const std::unique_ptr<WatchedList> self(this);
         m_real->Release();
     }
-    uint64_t GetCount() override
-    {
-        return answer("GetCount", uint64_t{0}, [&] { return m_real->GetCount(); });
-    }
+    uint64_t GetCount() override { return number("GetCount", m_real->GetCount()); }
     T* GetFirst() override
     {
         return answer<T*>("GetFirst", nullptr, [&] { return m_real->GetFirst(); });
@@ -125,16 +128,6 @@ public:
     }
 
 private:
-    const char* text(const char* call, const char* value)
-    {
-        return answer<const char*>(call, nullptr, [&] { return value; });
-    }
-    template <typename Number>
-    Number number(const char* call, Number value)
-    {
-        return answer(call, Number{0}, [&] { return value; });
-    }
-
     ZetoCam::DeviceInfo& m_real;
     ZetoCam::Interface& m_owner;
 };
@@ -170,19 +163,11 @@ public:
                       [&] { return m_real.ReEnumerateDevices(changed, timeout); });
     }
     const char* GetDescription() override { return text("GetDescription", m_real.GetDescription()); }
-    int32_t GetType() override
-    {
-        return answer("GetType", int32_t{0}, [&] { return m_real.GetType(); });
-    }
+    int32_t GetType() override { return number("GetType", m_real.GetType()); }
     const char* GetID() override { return text("Interface::GetID", m_real.GetID()); }
     const char* GetVersion() override { return text("Interface::GetVersion", m_real.GetVersion()); }
 
 private:
-    const char* text(const char* call, const char* value)
-    {
-        return answer<const char*>(call, nullptr, [&] { return value; });
-    }
-
     ZetoCam::Interface& m_real;
     ZetoCam::System& m_system;
     ParamFaults& m_faults;

@@ -188,47 +188,17 @@ public:
     }
 };
 
-template <typename Interface>
-struct Faulty;
-template <>
-struct Faulty<Boolean>
+/// What stands for each kind of parameter. Declared for their results only.
+struct Faulty
 {
-    using Type = FaultyValue<Boolean, bool>;
-};
-template <>
-struct Faulty<String>
-{
-    using Type = FaultyValue<String, const char*>;
-};
-template <>
-struct Faulty<Int>
-{
-    using Type = FaultyNumber<Int, int64_t>;
-};
-template <>
-struct Faulty<Float>
-{
-    using Type = FaultyNumber<Float, double>;
-};
-template <>
-struct Faulty<Enum>
-{
-    using Type = FaultyEnum;
-};
-template <>
-struct Faulty<EnumEntry>
-{
-    using Type = FaultyEntry;
-};
-template <>
-struct Faulty<Command>
-{
-    using Type = FaultyCommand;
-};
-template <>
-struct Faulty<Param>
-{
-    using Type = FaultyParam<Param>;
+    static FaultyParam<Param> of(Param*);
+    static FaultyValue<Boolean, bool> of(Boolean*);
+    static FaultyValue<String, const char*> of(String*);
+    static FaultyNumber<Int, int64_t> of(Int*);
+    static FaultyNumber<Float, double> of(Float*);
+    static FaultyEnum of(Enum*);
+    static FaultyEntry of(EnumEntry*);
+    static FaultyCommand of(Command*);
 };
 
 } // namespace
@@ -248,7 +218,7 @@ Interface* FaultyArray::around(Interface* inner)
         return nullptr;
     auto& known = m_params[inner];
     if (!known)
-        known = std::make_unique<typename Faulty<Interface>::Type>(*this, *inner, m_faults);
+        known = std::make_unique<decltype(Faulty::of(inner))>(*this, *inner, m_faults);
     return dynamic_cast<Interface*>(known.get());
 }
 

@@ -1,5 +1,6 @@
 #include "allwindows.h"
 
+#include "devicepointer.h"
 #include "simulatorfixture.h"
 #include "testmain.h"
 
@@ -90,34 +91,20 @@ class TestAccessibility : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void cleanupTestCase();
     void namesEveryControl_data() { addAllWindows(); }
     void namesEveryControl();
     void reachesEveryControlByKeyboard_data() { addAllWindows(); }
     void reachesEveryControlByKeyboard();
 
 private:
-    std::unique_ptr<SimulatorFixture> m_simulator;
-    ZetoCam::Device* m_device = nullptr;
+    SimulatorFixture m_simulator;
+    const DevicePointer m_device{m_simulator.open("sim.gev0.dual")};
 };
-
-void TestAccessibility::initTestCase()
-{
-    m_simulator = std::make_unique<SimulatorFixture>(ZetoSimulator::SimulatorSetup::standard());
-    m_device = m_simulator->open("sim.gev0.dual");
-    QVERIFY(m_device);
-}
-
-void TestAccessibility::cleanupTestCase()
-{
-    m_device->Release();
-}
 
 void TestAccessibility::namesEveryControl()
 {
     QFETCH(const WindowKind, window);
-    const std::unique_ptr<QWidget> shown = window.make(m_simulator->system(), *m_device);
+    const std::unique_ptr<QWidget> shown = window.make(m_simulator.system(), *m_device);
     shown->show();
 
     QStringList nameless;
@@ -132,7 +119,7 @@ void TestAccessibility::namesEveryControl()
 void TestAccessibility::reachesEveryControlByKeyboard()
 {
     QFETCH(const WindowKind, window);
-    const std::unique_ptr<QWidget> shown = window.make(m_simulator->system(), *m_device);
+    const std::unique_ptr<QWidget> shown = window.make(m_simulator.system(), *m_device);
     shown->show();
     QVERIFY(QTest::qWaitForWindowActive(shown.get()));
     if (!shown->focusWidget())

@@ -1,6 +1,7 @@
 #include "allwindows.h"
 
 #include "applicationlanguage.h"
+#include "devicepointer.h"
 #include "simulatorfixture.h"
 #include "testmain.h"
 
@@ -108,28 +109,14 @@ class TestLanguages : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void cleanupTestCase();
     void speaksTheLanguageWithRoomForIt_data();
     void speaksTheLanguageWithRoomForIt();
     void followsTheLocaleFromWindowToWindow();
 
 private:
-    std::unique_ptr<SimulatorFixture> m_simulator;
-    ZetoCam::Device* m_device = nullptr;
+    SimulatorFixture m_simulator;
+    const DevicePointer m_device{m_simulator.open("sim.gev0.dual")};
 };
-
-void TestLanguages::initTestCase()
-{
-    m_simulator = std::make_unique<SimulatorFixture>(ZetoSimulator::SimulatorSetup::standard());
-    m_device = m_simulator->open("sim.gev0.dual");
-    QVERIFY(m_device);
-}
-
-void TestLanguages::cleanupTestCase()
-{
-    m_device->Release();
-}
 
 void TestLanguages::speaksTheLanguageWithRoomForIt_data()
 {
@@ -151,7 +138,7 @@ void TestLanguages::speaksTheLanguageWithRoomForIt()
 
     if (window.isOpenedByAnother)
         ZetoGui::useApplicationLanguage(); // as the window that opens it
-    const std::unique_ptr<QWidget> shown = window.make(m_simulator->system(), *m_device);
+    const std::unique_ptr<QWidget> shown = window.make(m_simulator.system(), *m_device);
     shown->show();
     QVERIFY(QTest::qWaitForWindowExposed(shown.get()));
     QCoreApplication::processEvents(); // layouts that the texts have changed
@@ -175,7 +162,7 @@ void TestLanguages::followsTheLocaleFromWindowToWindow()
 {
     const auto title = [this](const QLocale& locale) {
         const ScopedLocale scope(locale);
-        return allWindows().front().make(m_simulator->system(), *m_device)->windowTitle();
+        return allWindows().front().make(m_simulator.system(), *m_device)->windowTitle();
     };
     const QString english = title(QLocale::c());
     QVERIFY(title(QLocale(QLocale::German, QLocale::Austria)) != english);
