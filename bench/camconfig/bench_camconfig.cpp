@@ -2,6 +2,7 @@
 
 #include "bareparams.h"
 #include "comparison.h"
+#include "devicepointer.h"
 #include "dialogtable.h"
 #include "qtzetospinbox.h"
 #include "recordingdevice.h"
@@ -16,20 +17,15 @@ namespace {
 struct Camera
 {
     SimulatorFixture simulator;
-    ZetoCam::Device& device = *simulator.open("sim.gev0.dual");
-    ZetoGenParam::Array& array = *device.GetParameters(nullptr);
-
-    Camera() = default;
-    ~Camera() { device.Release(); }
-    Camera(const Camera&) = delete;
-    Camera& operator=(const Camera&) = delete;
+    const DevicePointer device{simulator.open("sim.gev0.dual")};
+    ZetoGenParam::Array& array = *device->GetParameters(nullptr);
 };
 
 using Names = std::vector<std::string>;
 
 Names featuresOf(const DialogRow& row, Camera& camera)
 {
-    RecordingDevice recorder(camera.device);
+    RecordingDevice recorder(*camera.device);
     row.make(&recorder);
     return recorder.names();
 }
@@ -47,7 +43,7 @@ void compareOpening(const DialogRow& row, Camera& camera, const Names& names)
         std::string("opening and closing the dialog, ") + row.name, 3,
         [&row, &camera](benchmark::State& state) {
             for (auto _ : state)
-                showAndLeave(*row.make(&camera.device));
+                showAndLeave(*row.make(camera.device.get()));
         },
         [&row, &camera, names](benchmark::State& state) {
             for (auto _ : state) {

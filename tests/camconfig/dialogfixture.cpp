@@ -8,14 +8,8 @@
 DialogFixture::DialogFixture(const char* cameraId)
     : m_id(cameraId)
     , m_device(m_simulator.open(cameraId))
-    , m_faulty(std::make_unique<FaultyDevice>(*m_device))
+    , m_faulty(*m_device)
 {
-}
-
-DialogFixture::~DialogFixture()
-{
-    m_faulty.reset();
-    m_device->Release();
 }
 
 ZetoNodeMap::NodeMap& DialogFixture::features()

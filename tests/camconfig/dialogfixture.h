@@ -1,6 +1,7 @@
 #pragma once
 
 #include "childof.h"
+#include "devicepointer.h"
 #include "faultydevice.h"
 #include "nodemap.h"
 #include "simulatorfixture.h"
@@ -15,11 +16,10 @@ class DialogFixture
 {
 public:
     explicit DialogFixture(const char* cameraId = "sim.gev0.dual");
-    ~DialogFixture();
 
     /// What dialogs are given.
-    FaultyDevice& device() { return *m_faulty; }
-    ParamFaults& faults() { return m_faulty->faults(); }
+    FaultyDevice& device() { return m_faulty; }
+    ParamFaults& faults() { return m_faulty.faults(); }
     QStringList takeWrites() { return faults().takeWrites(); }
 
     ZetoNodeMap::NodeMap& features();
@@ -34,8 +34,8 @@ public:
 private:
     const std::string m_id;
     SimulatorFixture m_simulator;
-    ZetoCam::Device* m_device;
-    std::unique_ptr<FaultyDevice> m_faulty;
+    const DevicePointer m_device;
+    FaultyDevice m_faulty;
 };
 
 /// Edits every control of \a dialog that is enabled, once.

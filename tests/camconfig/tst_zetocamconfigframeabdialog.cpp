@@ -420,9 +420,9 @@ void TestZetoCamConfigFrameABDialog::leaves_what_is_half_typed_at_its_frame()
     QCOMPARE(child<QSpinBox>("spBoxFrameWidth")->text(), QStringLiteral("4096"));
 
     typeInto("spBoxDigitalGain", "20", Qt::Key_unknown);
-    assign(QStringLiteral("FrameAB_Selector=FrameA"));
+    assign("FrameAB_Selector=FrameA");
     typeInto("spBoxDualVideo", "1700", Qt::Key_unknown);
-    assign(QStringLiteral("FrameMode=FrameA"));
+    assign("FrameMode=FrameA");
     for (const auto& [field, end] : {std::pair("spBoxDigitalGain", Qt::Key_unknown),
                                      {"spBoxBlackLevel", Qt::Key_unknown},
                                      {"spBoxExpTime", Qt::Key_Escape}}) {
