@@ -16,6 +16,8 @@
 #include <QTreeView>
 #include <QtTest>
 
+#include <tuple>
+
 using namespace ZetoNodeMap;
 
 namespace {
@@ -60,8 +62,6 @@ std::unique_ptr<NodeMap> everyFeature(const bool& isDone)
     b.string("Label").in("Root").maxLength(5).value("cam");
     b.string("Password").in("Root").access(GenApi::WO).maxLength(9);
     b.bytes("Bytes").in("Root").access(GenApi::RW);
-    b.enumeration("Selector").in("Root").entries({"Red", "Blue"}).selects({"Gain"});
-    b.integer("Gain").in("Root").limits(0, 9).valueAt({0}, 1).valueAt({1}, 7);
     b.integer("Count").in("Root").access(GenApi::RO);
     b.integer("Room").in("Root").value(9);
     b.integer("Guest").in("Root").limits(0, "Room").value(3);
@@ -181,7 +181,6 @@ private slots:
     void showsWhatTheCameraMadeOfAValue();
     void runsACommandOncePerClick();
     void showsABusyCommand();
-    void showsSelectedFeaturesAtOnce();
     void keepsWhatIsTypedThroughChanges();
     void followsTheCameraWhileNothingIsTyped();
     void startsEmptyWithoutAValue();
@@ -321,15 +320,6 @@ void TestGenParamDelegate::showsABusyCommand()
     desk.isDone = true;
     QTRY_COMPARE(button->text(), QStringLiteral("Execute"));
     QVERIFY(!desk.cell("Calibrate").data(GenParamTreeModel::BusyRole).toBool());
-}
-
-void TestGenParamDelegate::showsSelectedFeaturesAtOnce()
-{
-    Desk desk;
-    QCOMPARE(desk.shown("Gain"), QStringLiteral("1"));
-    desk.open("Selector");
-    pressKeys("Down");
-    QCOMPARE(desk.shown("Gain"), QStringLiteral("7"));
 }
 
 void TestGenParamDelegate::keepsWhatIsTypedThroughChanges()

@@ -7,6 +7,8 @@
 #include <QBrush>
 #include <QtTest>
 
+#include <utility>
+
 using ZetoNodeMap::NodeMap;
 using ZetoNodeMap::NodeMapBuilder;
 

@@ -8,6 +8,8 @@
 #include <QVBoxLayout>
 #include <QtTest>
 
+#include <utility>
+
 namespace {
 
 constexpr qint64 lowest = std::numeric_limits<qint64>::min();
