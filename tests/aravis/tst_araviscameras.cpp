@@ -20,10 +20,6 @@
 
 using namespace ZetoCameraLibrary;
 
-namespace {
-
-constexpr int lossTimeoutMs = 20'000; // the Aravis library itself takes 7.5 s to notice
-
 /// A system with the cameras of Aravis that a test has to itself.
 class AravisFixture
 {
@@ -92,6 +88,10 @@ struct EventCounter
     std::atomic<int> lost{0};
     std::atomic<int> back{0};
 };
+
+namespace {
+
+constexpr int lossTimeoutMs = 20'000; // the Aravis library itself takes 7.5 s to notice
 
 ZetoGenParam::Int& integer(const DevicePointer& device, const char* name)
 {
