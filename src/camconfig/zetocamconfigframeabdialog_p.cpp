@@ -188,7 +188,7 @@ void ZetoCamConfigFrameABDialogPrivate::connectRules()
     for (QCheckBox* const checkBox : {ui.chBoxFixedFramePeriodEnable, ui.chBoxWdrEnable})
         connect(checkBox, &QCheckBox::toggled, connections(), rules);
     connect(ui.chBoxFixedFramePeriodEnable, &QCheckBox::toggled, connections(),
-            [this] { showExposureTime(); });
+            [this] { followExposureTime(); });
     connect(ui.cmBoxFrameMode, &QComboBox::currentTextChanged, connections(), rules);
     connect(ui.cmBoxFrameMode, qOverload<int>(&QComboBox::activated), connections(),
             [this] { showFrameOfMode(); });
@@ -214,13 +214,16 @@ void ZetoCamConfigFrameABDialogPrivate::featureChanged(ZetoGenParam::Param* para
         showCurrentSize();
     }
     applyRules();
-    showExposureTime();
+    followExposureTime();
 }
 
 void ZetoCamConfigFrameABDialogPrivate::applyRules()
 {
+    const bool followed = ui.spBoxExpTime->isEnabled();
     applyExposureRules();
     applyFrameMode();
+    if (!followed)
+        followExposureTime();
     allow({ui.spBoxDigitalGain}, m_gain->isOffered());
     allow({ui.radioBtnFullFrame, ui.radioBtnCustomFrame}, m_size->isOffered());
     allow({ui.radioBtnQFHDFrame}, m_size->isOffered() && m_size->hasQfhd());
@@ -293,6 +296,13 @@ void ZetoCamConfigFrameABDialogPrivate::showExposureTime()
 {
     const bool isFixed = ui.chBoxFixedFramePeriodEnable->isChecked();
     m_exposure->show(isFixed ? std::make_optional(ui.spBoxFixedFramePeriodValue->value()) : std::nullopt);
+}
+
+/// A time that cannot be set stays as it is until it can be.
+void ZetoCamConfigFrameABDialogPrivate::followExposureTime()
+{
+    if (ui.spBoxExpTime->isEnabled())
+        showExposureTime();
 }
 
 void ZetoCamConfigFrameABDialogPrivate::showCurrentSize()

@@ -49,6 +49,7 @@ private:
     QWidget* pageOf(const QString& frame) const;
 
     void showExposureTime();
+    void followExposureTime();
     void showCurrentSize();
 
     LineTiming m_timing;

@@ -41,6 +41,7 @@ private slots:
     void shows_and_writes_exposure_times_data();
     void shows_and_writes_exposure_times();
     void leaves_the_clocks_when_the_lines_are_refused();
+    void follows_the_exposure_time_while_it_can_be_set();
     void shows_periods_in_microseconds();
     void works_with_odd_clocks();
     void shows_and_writes_digital_gains();
@@ -240,6 +241,18 @@ void TestZetoCamConfigFrameABDialog::leaves_the_clocks_when_the_lines_are_refuse
     QCOMPARE(child<QtZetoSpinBox>("spBoxExpLines")->value(), 1000);
     typeInto("spBoxExpTime", "105"); // once more the same
     QCOMPARE(takeWrites(), QStringList({"Frame_ExposureLines=10", "Frame_ExposureClocks=800"}));
+}
+
+void TestZetoCamConfigFrameABDialog::follows_the_exposure_time_while_it_can_be_set()
+{
+    auto* const time = child<QtZetoSliderSpinBox>("spBoxExpTime");
+    assign("Frame_ExposureControl=Off");
+    QVERIFY(!time->isEnabled());
+    assign("Frame_ExposureLines=12");
+    QCOMPARE(time->value(), 10000);
+    assign("Frame_ExposureControl=Internal");
+    QCOMPARE(time->value(), 120);
+    QCOMPARE(takeWrites(), QStringList());
 }
 
 void TestZetoCamConfigFrameABDialog::shows_periods_in_microseconds()
