@@ -266,7 +266,8 @@ void TestZetoCamConfigMapper::survives_any_fault()
     use();
     const int calls = m_camera->faults().calls();
     QVERIFY(calls > 20);
-    for (const int code : {0, -40006, -40202, -40204, -1}) {
+    for (const int code : {0, -40001, -40002, -40003, -40004, -40005, -40006, -40007, -40051, -40101, -40200,
+                           -40201, -40202, -40203, -40204, -40205, -40206, -1}) {
         for (int call = 0; call < calls; ++call) {
             m_camera->faults().failAt(call, code);
             use();
