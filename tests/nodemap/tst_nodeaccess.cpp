@@ -54,13 +54,13 @@ void TestNodeAccess::refuses_calls_by_access_mode()
         const auto map = makeMap();
         const QString onRead = IsReadable(mode) ? QString() : QStringLiteral("Access");
         const QString onWrite = IsWritable(mode) ? QString() : QStringLiteral("Access");
-        for (const auto& [node, text] : writes) {
-            const CValuePtr value(map->GetNode(node));
-            map->setAccessMode(node, mode);
+        for (const auto& write : writes) {
+            const CValuePtr value(map->GetNode(write.first));
+            map->setAccessMode(write.first, mode);
             QCOMPARE(exceptionName([&] { value->ToString(); }), onRead);
             QCOMPARE(exceptionName([&] { value->ToString(true); }), onRead);
-            QCOMPARE(exceptionName([&] { value->FromString(text); }), onWrite);
-            QCOMPARE(exceptionName([&] { value->FromString(text, false); }), QString());
+            QCOMPARE(exceptionName([&] { value->FromString(write.second); }), onWrite);
+            QCOMPARE(exceptionName([&] { value->FromString(write.second, false); }), QString());
         }
         const CIntegerPtr integer(map->GetNode("Int"));
         QCOMPARE(exceptionName([&] { integer->GetMin(), integer->GetInc(); }), QString());

@@ -101,7 +101,7 @@ void TestNodeCallbacks::a_change_fires_what_depends_on_it_data()
     QTest::addColumn<Action>("action");
     QTest::addColumn<QString>("fired");
 
-    const auto row = [](const char* name, const char* fired, Action action) {
+    const auto row = [](const char* name, const char* fired, const Action& action) {
         QTest::newRow(name) << action << QString::fromLatin1(fired);
     };
     row("write", "Gain Level", [](auto& map) { integer(map, "Gain")->SetValue(3); });
