@@ -10,6 +10,7 @@
 #include <QtTest>
 
 #include <algorithm>
+#include <atomic>
 #include <functional>
 #include <thread>
 
@@ -77,6 +78,7 @@ private slots:
     void followsTheCamera();
     void tellsTheElapsedTime();
     void survivesEveryFault();
+    void letsGoOfCamerasInUse();
 };
 
 void TestBrowserRefresh::takesAnyPollingTime()
@@ -210,6 +212,52 @@ void TestBrowserRefresh::survivesEveryFault()
         faults.throwRandomly(0.3, seed);
         browse(*camera, seed % 2);
     }
+}
+
+void TestBrowserRefresh::letsGoOfCamerasInUse()
+{
+    auto camera = makeCamera(100);
+    auto other = makeCamera(100);
+    std::atomic<bool> isOver{false};
+    const auto write = [&isOver](NodeMap& nodeMap) {
+        for (int i = 0; !isOver; ++i)
+            nodeMap.assign("Feature" + std::to_string(i % 100), i);
+    };
+    std::thread writer([&] { write(*camera); });
+    std::thread otherWriter([&] { write(*other); });
+    auto view = std::make_unique<ZetoGenParamTreeView>();
+    view->show();
+    view->enablePolling(true);
+    for (int round = 0; round < 60; ++round) {
+        view->setParams(round % 2 ? camera.get() : other.get());
+        view->treeView()->expandAll();
+        view->findChild<QLineEdit*>("filterLineEdit")->setText(QString::number(round % 7));
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 1);
+        if (round % 3 == 0)
+            view->clearParams();
+        if (round % 10 == 0) {
+            view = std::make_unique<ZetoGenParamTreeView>(camera.get());
+            view->show();
+        }
+    }
+    // The camera may go as soon as it is not shown any more, with all else still under way.
+    view->setParams(other.get());
+    isOver = true;
+    writer.join();
+    otherWriter.join();
+    camera.reset();
+    other->assign("Feature1", 4711);
+    view->findChild<QLineEdit*>("filterLineEdit")->clear();
+    const QAbstractItemModel& rows = *view->treeView()->model();
+    const auto shown = [&rows] {
+        const QModelIndexList found = rows.match(rows.index(0, 0), Qt::DisplayRole, "Feature1", 1,
+                                                 Qt::MatchExactly | Qt::MatchRecursive);
+        return found.value(0).siblingAtColumn(1).data().toString();
+    };
+    QTRY_COMPARE(shown(), "4711");
+    view->clearParams();
+    other.reset();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 ZETO_TEST_MAIN(TestBrowserRefresh)
