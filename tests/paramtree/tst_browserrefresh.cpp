@@ -72,6 +72,7 @@ class TestBrowserRefresh : public QObject
 
 private slots:
     void takesAnyPollingTime();
+    void refreshesWhenIdleWithoutATime();
     void readsWhatIsOnScreen_data();
     void readsWhatIsOnScreen();
     void restsWhileNobodyLooks();
@@ -96,6 +97,15 @@ void TestBrowserRefresh::takesAnyPollingTime()
         view.enablePolling(on);
         QCOMPARE(view.isPollingEnabled(), on);
     }
+}
+
+void TestBrowserRefresh::refreshesWhenIdleWithoutATime()
+{
+    Browser browser;
+    Traffic traffic;
+    traffic.watch(*browser.camera);
+    browser.view.enablePolling(true);
+    QTRY_VERIFY(traffic.polls >= 3);
 }
 
 void TestBrowserRefresh::readsWhatIsOnScreen_data()
@@ -225,20 +235,19 @@ void TestBrowserRefresh::letsGoOfCamerasInUse()
     };
     std::thread writer([&] { write(*camera); });
     std::thread otherWriter([&] { write(*other); });
-    auto view = std::make_unique<ZetoGenParamTreeView>();
-    view->show();
-    view->enablePolling(true);
+    std::unique_ptr<ZetoGenParamTreeView> view;
     for (int round = 0; round < 60; ++round) {
+        if (round % 10 == 0) {
+            view = std::make_unique<ZetoGenParamTreeView>(camera.get());
+            view->show();
+            view->enablePolling(true);
+        }
         view->setParams(round % 2 ? camera.get() : other.get());
         view->treeView()->expandAll();
         view->findChild<QLineEdit*>("filterLineEdit")->setText(QString::number(round % 7));
         QCoreApplication::processEvents(QEventLoop::AllEvents, 1);
         if (round % 3 == 0)
             view->clearParams();
-        if (round % 10 == 0) {
-            view = std::make_unique<ZetoGenParamTreeView>(camera.get());
-            view->show();
-        }
     }
     // The camera may go as soon as it is not shown any more, with all else still under way.
     view->setParams(other.get());

@@ -180,6 +180,12 @@ void TestGenParamTreeModel::describesCells()
     QCOMPARE(shown.cell("Address").data(Qt::EditRole), QVariant("10.0.0.1"));
     QVERIFY(model.index(0, 0).data(Qt::BackgroundRole).value<QBrush>().color().alpha() < 255);
     QCOMPARE(width.data(Qt::BackgroundRole), QVariant());
+    for (const GenApi::EAccessMode without : {GenApi::NA, GenApi::NI}) {
+        shown.map->setAccessMode("Width", without);
+        QCOMPARE(width.data().toString(), "<Value not available>");
+        shown.map->setAccessMode("Width", GenApi::RW);
+        QCOMPARE(width.data().toString(), "640px");
+    }
 }
 
 void TestGenParamTreeModel::believesRepresentations()

@@ -76,7 +76,7 @@ public:
     }
 
     QString text() const { return spinBox.findChild<QLineEdit*>()->text(); }
-    QString result() const { return (log + QStringList{'|' + text()}).join(' '); }
+    QString result() const { return (log + QStringList{told + '|' + text()}).join(' '); }
 
     QtZetoSpinBoxVal64 spinBox;
     QLineEdit other;
