@@ -183,18 +183,18 @@ void QWinWidgetTest::leavesTheParentOfAModelessDialogEnabled()
 
 void QWinWidgetTest::givesTheFocusBack_data()
 {
-    QTest::addColumn<bool>("isInControl");
-    QTest::newRow("control") << true;
-    QTest::newRow("window") << false;
+    QTest::addColumn<QString>("focused");
+    for (const char* const focused : {"control", "window", "nothing"})
+        QTest::newRow(focused) << focused;
 }
 
 void QWinWidgetTest::givesTheFocusBack()
 {
-    QFETCH(bool, isInControl);
+    QFETCH(QString, focused);
     HostWindow native(QRect(100, 100, 200, 100), HostWindow::Framed);
-    const HWND before = isInControl ? native.control() : native.handle();
+    const HWND before = focused == QLatin1String("control") ? native.control() : native.handle();
     QTRY_VERIFY(native.focused() == native.handle()); // by the window manager
-    native.focus(before);
+    native.focus(focused == QLatin1String("nothing") ? nullptr : before);
     const Hosted hosted(native.handle());
     hosted.show();
     QTRY_VERIFY(!native.takesKeys(before));
