@@ -27,7 +27,7 @@ QtComplaints::~QtComplaints()
     qInstallMessageHandler(m_before);
 }
 
-int QtComplaints::all()
+int QtComplaints::waitForAll()
 {
     QWidget last;
     last.show();

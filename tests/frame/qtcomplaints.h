@@ -11,9 +11,9 @@ public:
     ~QtComplaints();
     Q_DISABLE_COPY(QtComplaints)
 
-    /// How many have come, once all have that the X server owes: it answers in order, but the answers are
-    /// read by a thread of Qt's, so some come long after QGuiApplication::sync().
-    static int all();
+    /// \return how many have come, once all have that the X server owes: it answers in order, but the answers
+    /// are read by a thread of Qt's, so some come long after QGuiApplication::sync().
+    static int waitForAll();
 
 private:
     const QtMessageHandler m_before;
